@@ -1,0 +1,29 @@
+#include "orvane/host/Value.h"
+
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Coercion.h"
+#include "orvane/host/Object.h"
+
+namespace orvane::host {
+
+const std::shared_ptr<Object>& Value::AsObject() const {
+  const auto* object = If<std::shared_ptr<Object>>();
+  if (object == nullptr || *object == nullptr) {
+    throw AutomationError(ErrorNumber::TypeMismatch,
+                          "Type mismatch: expected an object, got " + Describe());
+  }
+  return *object;
+}
+
+std::string Value::Describe() const {
+  if (const auto* value = If<bool>()) return *value ? "Boolean true" : "Boolean false";
+  if (If<std::int32_t>() || If<double>()) return "number " + ToText(*this);
+  if (const auto* value = If<std::string>()) return "String \"" + *value + "\"";
+  if (If<Numbers>()) return "a row of numbers";
+  if (const auto* value = If<std::shared_ptr<Object>>()) {
+    return *value ? "an object of class " + (*value)->Type().Name() : "no object";
+  }
+  return "nothing";
+}
+
+}  // namespace orvane::host
