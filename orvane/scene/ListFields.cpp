@@ -1,0 +1,217 @@
+#include "orvane/scene/ListFields.h"
+
+#include "orvane/host/Describe.h"
+#include "orvane/scene/Node.h"
+#include "orvane/scene/SceneError.h"
+#include "orvane/scene/SceneWriter.h"
+
+#include <algorithm>
+
+namespace orvane::host {
+
+/// Entries of more than one component reach late-bound callers as a row of numbers.
+template <>
+struct Automation<scene::Vec2f> {
+  static ValueType Type() { return {"Numbers"}; }
+  static Value To(scene::Vec2f v) { return Value::Numbers{v.x, v.y}; }
+};
+
+template <>
+struct Automation<scene::Vec3f> {
+  static ValueType Type() { return {"Numbers"}; }
+  static Value To(scene::Vec3f v) { return Value::Numbers{v.x, v.y, v.z}; }
+};
+
+template <>
+struct Automation<scene::Color> {
+  static ValueType Type() { return {"Numbers"}; }
+  static Value To(scene::Color c) { return Value::Numbers{c.red, c.green, c.blue}; }
+};
+
+}  // namespace orvane::host
+
+namespace orvane::scene {
+
+using host::Describe;
+using host::ErrorNumber;
+using host::Help;
+using host::TypeInfo;
+
+namespace {
+
+void WriteItem(SceneWriter& out, const std::string& item) { out.PutString(item); }
+
+void WriteItem(SceneWriter& out, float item) { out.PutNumber(item); }
+
+void WriteItem(SceneWriter& out, Vec2f item) { out.PutNumbers({item.x, item.y}); }
+
+void WriteItem(SceneWriter& out, Vec3f item) { out.PutNumbers({item.x, item.y, item.z}); }
+
+void WriteItem(SceneWriter& out, Color item) { out.PutNumbers({item.red, item.green, item.blue}); }
+
+const Help kAppend = {"Adds an entry at the end"};
+
+/// The members that all lists have in common.
+template <class F>
+void DescribeList(Describe<F>& list) {
+  list.Method("RemoveAt", &F::RemoveAt, {"Index"}, {"Removes one entry", "", "1..Count"})
+      .Method("Clear", &F::Clear, {}, {"Removes all entries"})
+      .template Property<std::int32_t>("Count", &F::Count, {"Number of entries"});
+}
+
+template <class F>
+void DescribeCopy(Describe<F>& list) {
+  using Copy = void (F::*)(const std::shared_ptr<F>&) const;
+  list.Method("CopyTo", static_cast<Copy>(&F::CopyTo), {"list"},
+              {"Replaces the entries of another list with a copy of these"});
+}
+
+}  // namespace
+
+const TypeInfo& MFNode::Type() const {
+  static const TypeInfo type =
+      Describe<MFNode>("A list of nodes.")
+          .Method("Append", &MFNode::Append, {"node"}, kAppend)
+          .Method("Insert", &MFNode::Insert, {"Index", "node"},
+                  {"Puts a node at a position, moving later ones back", "", "1..Count + 1"})
+          .Method("Remove", &MFNode::Remove, {"node"}, {"Removes a node from the list"})
+          .Indexed<std::shared_ptr<Node>>("Item", &MFNode::Item, {"One entry", "", "1..Count"})
+          .With(DescribeList<MFNode>);
+  return type;
+}
+
+const TypeInfo& MFString::Type() const {
+  static const TypeInfo type =
+      Describe<MFString>("A list of texts.")
+          .Indexed<std::string>("Item", &MFString::Item, &MFString::Item,
+                                {"One entry", "", "1..Count"})
+          .Method("Append", &MFString::Append, {"text"}, kAppend)
+          .Method("Insert", &MFString::Insert, {"Index", "text"},
+                  {"Puts a text at a position, moving later ones back", "", "1..Count + 1"})
+          .With(DescribeList<MFString>)
+          .With(DescribeCopy<MFString>);
+  return type;
+}
+
+const TypeInfo& MFFloat::Type() const {
+  static const TypeInfo type =
+      Describe<MFFloat>("A list of numbers.")
+          .Indexed<float>("Item", &MFFloat::Item, &MFFloat::Item, {"One entry", "", "1..Count"})
+          .Method("Append", &MFFloat::Append, {"value"}, kAppend)
+          .With(DescribeList<MFFloat>)
+          .With(DescribeCopy<MFFloat>);
+  return type;
+}
+
+const TypeInfo& MFColor::Type() const {
+  static const TypeInfo type =
+      Describe<MFColor>("A list of colours, components in 0..1.")
+          .Indexed<Color>("Item", &MFColor::Item, {"One entry as three numbers", "", "1..Count"})
+          .Method("SetItem", &MFColor::SetItem, {"Index", "red", "green", "blue"},
+                  {"Replaces one entry", "", "1..Count"})
+          .Method("Append", &MFColor::Append, {"red", "green", "blue"}, kAppend)
+          .With(DescribeList<MFColor>);
+  return type;
+}
+
+const TypeInfo& MFVec2f::Type() const {
+  static const TypeInfo type =
+      Describe<MFVec2f>("A list of points in the plane.")
+          .Indexed<Vec2f>("Item", &MFVec2f::Item, {"One entry as two numbers", "", "1..Count"})
+          .Method("Append", &MFVec2f::Append, {"x", "y"}, kAppend)
+          .With(DescribeList<MFVec2f>);
+  return type;
+}
+
+const TypeInfo& MFVec3f::Type() const {
+  static const TypeInfo type =
+      Describe<MFVec3f>("A list of points in space.")
+          .Indexed<Vec3f>("Item", &MFVec3f::Item, {"One entry as three numbers", "", "1..Count"})
+          .Method("Append", &MFVec3f::Append, {"x", "y", "z"}, kAppend)
+          .With(DescribeList<MFVec3f>);
+  return type;
+}
+
+template <class F, class T>
+void ListField<F, T>::RaiseIndex(std::int32_t index, std::int32_t count) const {
+  Raise(ErrorNumber::ListIndex, "Index " + std::to_string(index) + " is outside the range [1.." +
+                                    std::to_string(count) + "] of " + Where());
+}
+
+template <class F, class T>
+void ListField<F, T>::RaiseNoList() const {
+  Raise(ErrorNumber::NoNode, "CopyTo of " + Where() + " needs a list to copy to");
+}
+
+template <class F, class T>
+void ListField<F, T>::Write(SceneWriter& out) const {
+  out.Put("[ ");
+  bool isFirst = true;
+  for (const auto& item : m_items) {
+    if (!isFirst) out.Put(", ");
+    isFirst = false;
+    WriteItem(out, item);
+  }
+  out.Put(m_items.empty() ? "]" : " ]");
+}
+
+template <>
+void ListField<MFNode, std::shared_ptr<Node>>::Write(SceneWriter& out) const {
+  out.Put("[");
+  out.Indent();
+  for (const auto& node : m_items) {
+    out.NewLine();
+    out.PutNode(*node);
+  }
+  out.Outdent();
+  out.NewLine();
+  out.Put("]");
+}
+
+template class ListField<MFNode, std::shared_ptr<Node>>;
+template class ListField<MFString, std::string>;
+template class ListField<MFFloat, float>;
+template class ListField<MFColor, Color>;
+template class ListField<MFVec2f, Vec2f>;
+template class ListField<MFVec3f, Vec3f>;
+
+void MFString::Insert(std::int32_t index, const std::string& text) {
+  const auto place = index == Count() + 1 ? m_items.size() : Position(index);
+  m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), text);
+}
+
+Color MFColor::Checked(float red, float green, float blue) const {
+  for (const float component : {red, green, blue}) {
+    if (!(component >= 0 && component <= 1)) {
+      Raise(ErrorNumber::ColorRange, Where() + " takes components in the range [0..1]");
+    }
+  }
+  return {red, green, blue};
+}
+
+void MFNode::Append(const std::shared_ptr<Node>& node) { m_items.push_back(Checked(node)); }
+
+void MFNode::Insert(std::int32_t index, const std::shared_ptr<Node>& node) {
+  const auto place = index == Count() + 1 ? m_items.size() : Position(index);
+  m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), Checked(node));
+}
+
+void MFNode::Remove(const std::shared_ptr<Node>& node) {
+  const auto found = std::ranges::find(m_items, Checked(node));
+  if (found == m_items.end()) {
+    Raise(ErrorNumber::NodeNotInList,
+          Where() + " does not hold this " + node->TypeName() + ", so it cannot be removed");
+  }
+  m_items.erase(found);
+}
+
+const std::shared_ptr<Node>& MFNode::Checked(const std::shared_ptr<Node>& node) const {
+  if (node == nullptr) Raise(ErrorNumber::NoNode, Where() + " takes nodes only");
+  return node;
+}
+
+void MFNode::VisitNodes(const std::function<void(const Node&)>& visit) const {
+  for (const auto& node : m_items) visit(*node);
+}
+
+}  // namespace orvane::scene
