@@ -1,0 +1,78 @@
+#include "orvane/components/Axis.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Trimmed.h"
+#include "orvane/scene/frmMain.h"
+
+#include <algorithm>
+
+namespace orvane {
+
+using host::Quotient;
+using host::Single;
+
+Axis::Axis()
+    : m_root(scene::Create<scene::Transform>()),
+      m_labelsTransform(scene::Create<scene::Transform>()),
+      m_headerTransform(scene::Create<scene::Transform>()) {
+  m_labelsTransform->children.Append(m_labels.Node());
+  m_headerTransform->children.Append(m_header.Node());
+  m_root->children.Append(m_labelsTransform);
+  m_root->children.Append(m_headerTransform);
+}
+
+void Axis::Header(const std::string& text) {
+  m_hasHeader = !host::Trimmed(text).empty();
+  m_header.FirstLine(text);
+}
+
+void Axis::LabelHeight(float height) {
+  // Line advance is size x spacing: the spacing follows so that lines stay one gap apart.
+  const float spacing = height > 0 ? Single(Quotient(m_labelGap, height)) : 0;
+  m_labels.Height(height, "Invalid label height, must be greater than 0");
+  m_labels.Spacing(spacing);
+}
+
+void Axis::HeaderHeight(float height) {
+  m_header.Height(height, "Invalid Header height, must be greater than 0");
+}
+
+void Axis::LabelTextGap(float gap) {
+  host::Require(gap > 0, "Invalid label text gap, must be greater than 0");
+  m_labels.Spacing(Single(Quotient(gap, m_labels.Height())));
+  m_labelGap = gap;
+}
+
+void Axis::ShowAxis(bool show) {
+  if (show == m_isShown) return;
+  m_root->children.Clear();
+  if (show) {
+    m_root->children.Append(m_labelsTransform);
+    m_root->children.Append(m_headerTransform);
+  }
+  m_isShown = show;
+}
+
+void Axis::AlignHeader() {
+  if (!m_hasHeader) return;
+  m_header.Justify({"MIDDLE", "BEGIN"});
+
+  const double size = m_labels.Height();
+  const double lineAdvance = m_labels.Spacing() * size;
+  m_headerTransform->translation.Y(Single(lineAdvance * (Lines().Count() - 1) / -2));
+
+  float widest = 0;
+  for (const auto& label : Lines().Items()) {
+    widest = std::max(widest, EstimateTextWidth(label, m_labels.Height()));
+  }
+  constexpr double kClearance = 1.1;
+  constexpr float kQuarterTurn = 1.5708F;
+  // Labels that begin at their origin extend along +x, those that end there along -x.
+  const bool extendsRight = Alignment() == LabelAlignment::LEFT_ALIGN;
+  m_headerTransform->translation.X(
+      Single(extendsRight ? widest * kClearance : widest * -kClearance));
+  m_headerTransform->rotation.SetValue(0, 0, 1, extendsRight ? kQuarterTurn : -kQuarterTurn);
+}
+
+}  // namespace orvane

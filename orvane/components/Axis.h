@@ -1,0 +1,92 @@
+/// What the two kinds of axis share: labels, one a line of a single Text node, and a header.
+#pragma once
+
+#include "orvane/components/ISceneRoot.h"
+#include "orvane/components/TextShape.h"
+#include "orvane/host/Object.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace orvane {
+
+/// What a chart sets on either kind of axis at export.
+class ORVANE_API IAxis {
+ public:
+  virtual ~IAxis() = default;
+
+  /// The side of the labels' origin that they extend away from. Values outside the enumeration are
+  /// ignored.
+  virtual LabelAlignment Alignment() const = 0;
+  virtual void Alignment(LabelAlignment alignment) = 0;
+  /// Distance between label lines in scene units, > 0: the grid's spacing along the axis.
+  virtual float LabelTextGap() const = 0;
+  virtual void LabelTextGap(float gap) = 0;
+  /// Puts the header beside the middle of the label column, a tenth of the widest label's estimated
+  /// width away from it. Without a header nothing changes.
+  virtual void AlignHeader() = 0;
+};
+
+/// Labels run down from the axis root's origin; the chart places and turns the root.
+class ORVANE_API Axis : public host::Object, public ISceneRoot, public virtual IAxis {
+ public:
+  /// The header's text, kept as it is given; blank for none. Default "".
+  std::string Header() const { return m_header.FirstLine(); }
+  void Header(const std::string& text);
+
+  /// Host RGB colours, 0..0xFFFFFF. Default white.
+  std::int32_t LabelColor() const { return m_labels.Color(); }
+  void LabelColor(std::int32_t rgb) { m_labels.Color(rgb); }
+  std::int32_t HeaderColor() const { return m_header.Color(); }
+  void HeaderColor(std::int32_t rgb) { m_header.Color(rgb); }
+
+  /// Default VRML_SERIF; values outside the enumeration are ignored.
+  VRMLFontFamily LabelFont() const { return m_labels.Font(); }
+  void LabelFont(VRMLFontFamily family) { m_labels.Font(family); }
+  VRMLFontFamily HeaderFont() const { return m_header.Font(); }
+  void HeaderFont(VRMLFontFamily family) { m_header.Font(family); }
+
+  /// Default VRML_PLAIN; values outside the enumeration are ignored.
+  VRMLFontStyle LabelStyle() const { return m_labels.Style(); }
+  void LabelStyle(VRMLFontStyle style) { m_labels.Style(style); }
+  VRMLFontStyle HeaderStyle() const { return m_header.Style(); }
+  void HeaderStyle(VRMLFontStyle style) { m_header.Style(style); }
+
+  /// Heights of the texts in scene units, > 0. Default 1.
+  float LabelHeight() const { return m_labels.Height(); }
+  void LabelHeight(float height);
+  float HeaderHeight() const { return m_header.Height(); }
+  void HeaderHeight(float height);
+
+  /// Whether the axis is in the scene. Default true.
+  bool ShowAxis() const { return m_isShown; }
+  void ShowAxis(bool show);
+
+  LabelAlignment Alignment() const override { return m_labels.Alignment(); }
+  void Alignment(LabelAlignment alignment) override { m_labels.Alignment(alignment); }
+  float LabelTextGap() const override { return m_labelGap; }
+  void LabelTextGap(float gap) override;
+  void AlignHeader() override;
+
+  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
+  /// The same node; its chart places and turns it.
+  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+
+ protected:
+  Axis();
+
+  scene::MFString& Lines() const { return m_labels.Lines(); }
+
+ private:
+  std::shared_ptr<scene::Transform> m_root;
+  std::shared_ptr<scene::Transform> m_labelsTransform;
+  std::shared_ptr<scene::Transform> m_headerTransform;
+  TextShape m_labels{"BEGIN"};
+  TextShape m_header{"MIDDLE"};
+  float m_labelGap = 0.1F;
+  bool m_hasHeader = false;
+  bool m_isShown = true;
+};
+
+}  // namespace orvane

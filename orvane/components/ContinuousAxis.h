@@ -1,0 +1,53 @@
+/// An axis of values; it makes its labels from a range, a count and a format picture.
+#pragma once
+
+#include "orvane/components/Axis.h"
+
+#include <cstdint>
+#include <string>
+
+namespace orvane {
+
+/// What a chart sets on a value axis at export.
+class ORVANE_API IContinuousAxis : public virtual IAxis {
+ public:
+  /// Number of labels, unchecked; a let makes the labels anew. 1 raises DivisionByZero and leaves
+  /// the labels.
+  virtual std::int16_t Count() const = 0;
+  virtual void Count(std::int16_t count) = 0;
+  /// Direction of the labels; a change makes them anew.
+  virtual LabelingOrder Order() const = 0;
+  virtual void Order(LabelingOrder order) = 0;
+};
+
+class ORVANE_API ContinuousAxis final : public Axis, public IContinuousAxis {
+ public:
+  static constexpr const char* kClassName = "ContinuousAxis";
+  const host::TypeInfo& Type() const override;
+
+  /// Values at the two ends of the labelling, unchecked. A let makes the labels anew. Default 0.
+  float Min() const { return m_min; }
+  void Min(float value);
+  float Max() const { return m_max; }
+  void Max(float value);
+
+  /// Picture of the labels, see FormatNumber; used when labels are next made. Default "###,##0.00".
+  std::string NumericFormat() const { return m_numericFormat; }
+  void NumericFormat(const std::string& picture) { m_numericFormat = picture; }
+
+  std::int16_t Count() const override { return m_count; }
+  void Count(std::int16_t count) override;
+  LabelingOrder Order() const override { return m_order; }
+  void Order(LabelingOrder order) override;
+
+ private:
+  void RegenerateLabels();
+
+  float m_min = 0;
+  float m_max = 0;
+  std::int16_t m_count = 0;
+  LabelingOrder m_order = LabelingOrder::MAX_TO_MIN;
+  std::string m_numericFormat = "###,##0.00";
+};
+
+}  // namespace orvane

@@ -1,0 +1,124 @@
+#include "orvane/components/GridInfo.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Describe.h"
+#include "orvane/scene/frmMain.h"
+
+namespace orvane {
+namespace {
+
+using host::Int16;
+using host::Quotient;
+using host::Single;
+
+std::int16_t CellCount(const scene::SFInt32& lineCount) { return Int16(lineCount.Value() - 1); }
+
+float Extent(const scene::SFInt32& lineCount, const scene::SFFloat& spacing) {
+  return Single(static_cast<double>(spacing.Value()) * CellCount(lineCount));
+}
+
+void SetExtent(float extent, const scene::SFInt32& lineCount, scene::SFFloat& spacing,
+               const char* message) {
+  host::Require(extent > 0, message);
+  spacing.Value(Single(Quotient(extent, CellCount(lineCount))));
+}
+
+void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat& spacing,
+                  const char* message) {
+  host::Require(count >= 1, message);
+  const std::int16_t lines = Int16(count + 1);
+  const float cell = Single(Quotient(Extent(lineCount, spacing), count));
+  lineCount.Value(lines);
+  spacing.Value(cell);
+}
+
+}  // namespace
+
+const host::TypeInfo& GridInfo::Type() const {
+  static const host::TypeInfo type =
+      host::Describe<GridInfo>("The box of grid lines and walls that a chart's data stands in.")
+          .Property<float>("Width", &GridInfo::Width, &GridInfo::Width,
+                           {"Extent along X; keeps the cell count", "scene units", "> 0", "8"})
+          .Property<std::int16_t>("XAxisCellCount", &GridInfo::XAxisCellCount,
+                                  &GridInfo::XAxisCellCount,
+                                  {"Cells along X; keeps Width", "", "1..32766", "4"})
+          .Property<float>("Height", &GridInfo::Height, &GridInfo::Height,
+                           {"Extent along Y; keeps the cell count", "scene units", "> 0", "6"})
+          .Property<std::int16_t>("YAxisCellCount", &GridInfo::YAxisCellCount,
+                                  &GridInfo::YAxisCellCount,
+                                  {"Cells along Y; keeps Height", "", "1..32766", "4"})
+          .Property<float>("Depth", &GridInfo::Depth, &GridInfo::Depth,
+                           {"Extent along Z; keeps the cell count", "scene units", "> 0", "8"})
+          .Property<std::int16_t>("ZAxisCellCount", &GridInfo::ZAxisCellCount,
+                                  &GridInfo::ZAxisCellCount,
+                                  {"Cells along Z; keeps Depth", "", "1..32766", "4"})
+          .Property<std::int32_t>("LineColor", &GridInfo::LineColor, &GridInfo::LineColor,
+                                  {"Colour of the lines", "host RGB", "0..16777215", "0"})
+          .Property<std::int32_t>("WallColor", &GridInfo::WallColor, &GridInfo::WallColor,
+                                  {"Colour of the walls", "host RGB", "0..16777215", "16777215"})
+          .Property<float>("Transparency", &GridInfo::Transparency, &GridInfo::Transparency,
+                           {"Transparency of the walls", "", "0..1", "0"});
+  return type;
+}
+
+GridInfo::GridInfo()
+    : m_root(scene::Create<scene::Transform>()),
+      m_grid(scene::Create<scene::ChartGrid>()),
+      m_wallAppearance(scene::Create<scene::Appearance>()),
+      m_wallMaterial(scene::Create<scene::Material>()) {
+  m_root->children.Append(m_grid);
+  m_grid->wallAppearance.Value(m_wallAppearance);
+  m_wallAppearance->material.Value(m_wallMaterial);
+  LineColor(0);
+  WallColor(0xFFFFFF);
+}
+
+float GridInfo::Width() const { return Extent(m_grid->xLineCount, m_grid->xSpacing); }
+
+void GridInfo::Width(float value) {
+  SetExtent(value, m_grid->xLineCount, m_grid->xSpacing, "The graph must be wider than 0");
+}
+
+std::int16_t GridInfo::XAxisCellCount() const { return CellCount(m_grid->xLineCount); }
+
+void GridInfo::XAxisCellCount(std::int16_t count) {
+  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing,
+               "The graph must have at least one cell on the X axis");
+  XCellCountChanged(count);
+}
+
+float GridInfo::Height() const { return Extent(m_grid->yLineCount, m_grid->ySpacing); }
+
+void GridInfo::Height(float value) {
+  SetExtent(value, m_grid->yLineCount, m_grid->ySpacing, "The graph must be taller than 0");
+}
+
+std::int16_t GridInfo::YAxisCellCount() const { return CellCount(m_grid->yLineCount); }
+
+void GridInfo::YAxisCellCount(std::int16_t count) {
+  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing,
+               "The graph must have at least one cell on the Y axis");
+  YCellCountChanged(count);
+}
+
+float GridInfo::Depth() const { return Extent(m_grid->zLineCount, m_grid->zSpacing); }
+
+void GridInfo::Depth(float value) {
+  SetExtent(value, m_grid->zLineCount, m_grid->zSpacing, "The graph must be deeper than 0");
+}
+
+std::int16_t GridInfo::ZAxisCellCount() const { return CellCount(m_grid->zLineCount); }
+
+void GridInfo::ZAxisCellCount(std::int16_t count) {
+  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing,
+               "The graph must have at least one cell on the Z axis");
+  ZCellCountChanged(count);
+}
+
+void GridInfo::Transparency(float value) {
+  host::Require(value >= 0 && value <= 1, "Transparency must be in the range [0..1]");
+  m_wallMaterial->transparency.Value(value);
+}
+
+}  // namespace orvane

@@ -1,0 +1,39 @@
+/// The lights of a chart's world.
+#pragma once
+
+#include "orvane/components/ISceneRoot.h"
+#include "orvane/host/Object.h"
+#include "orvane/scene/ViewNodes.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace orvane {
+
+/// Point lights in order of addition, and the viewer's headlight.
+class ORVANE_API LightCollection final : public host::Object, public ISceneRoot {
+ public:
+  static constexpr const char* kClassName = "LightCollection";
+  const host::TypeInfo& Type() const override;
+
+  LightCollection();
+
+  /// Light `index`, 1..Count; a bad index raises ListIndex.
+  std::shared_ptr<scene::PointLight> GetLightSource(std::int16_t index) const;
+  /// A new light with VRML97's defaults, for the host to set.
+  std::shared_ptr<scene::PointLight> AddLightSource();
+  void ClearLightSources() { m_lights->children.Clear(); }
+  std::int16_t Count() const;
+  /// Whether the viewer carries a light. Default true.
+  bool UseHeadlight() const { return m_navigation->headlight.Value(); }
+  void UseHeadlight(bool use) { m_navigation->headlight.Value(use); }
+
+  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
+
+ private:
+  std::shared_ptr<scene::Group> m_root;
+  std::shared_ptr<scene::Group> m_lights;
+  std::shared_ptr<scene::NavigationInfo> m_navigation;
+};
+
+}  // namespace orvane

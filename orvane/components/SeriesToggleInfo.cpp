@@ -1,0 +1,88 @@
+#include "orvane/components/SeriesToggleInfo.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Describe.h"
+#include "orvane/scene/frmMain.h"
+
+#include <string>
+
+namespace orvane {
+
+using host::Int16;
+using host::Single;
+
+const host::TypeInfo& SeriesToggleInfo::Type() const {
+  static const host::TypeInfo type =
+      host::Describe<SeriesToggleInfo>("A column of check boxes, one a legend entry.")
+          .Method("Get1CheckBox", &SeriesToggleInfo::Get1CheckBox, {"Index"},
+                  {"One check box", "", "1..Count"})
+          .Method("AddCheckBox", &SeriesToggleInfo::AddCheckBox, {}, {"Adds a check box"})
+          .Property<float>("Spacing", &SeriesToggleInfo::Spacing, &SeriesToggleInfo::Spacing,
+                           {"Gap between boxes", "scene units", "> 0", "0.5"})
+          .Property<float>("Height", &SeriesToggleInfo::Height, &SeriesToggleInfo::Height,
+                           {"Size of each box", "scene units", "> 0", "1"})
+          .Method("ClearCheckBoxes", &SeriesToggleInfo::ClearCheckBoxes, {},
+                  {"Removes all check boxes"})
+          .Property<std::int16_t>("Count", &SeriesToggleInfo::Count,
+                                  {"Number of check boxes", "", "", "0"});
+  return type;
+}
+
+SeriesToggleInfo::SeriesToggleInfo() : m_root(scene::Create<scene::Transform>()) {}
+
+std::shared_ptr<scene::Node> SeriesToggleInfo::Get1CheckBox(std::int16_t index) const {
+  host::Require(index >= 1 && index <= Count(), "Invalid index into the list of check boxes");
+  return m_boxes[static_cast<std::size_t>(index - 1)];
+}
+
+void SeriesToggleInfo::AddCheckBox() {
+  const std::int16_t number = Int16(Count() + 1);
+  auto box = scene::Create<scene::CheckBox>();
+  box->boxSize.Value(m_height);
+  box->isOn.Value(true);
+  box->SetDefName("CHECK_BOX_" + std::to_string(number));
+  auto transform = scene::Create<scene::Transform>();
+  transform->children.Append(box);
+  m_root->children.Append(transform);
+  m_boxes.push_back(std::move(box));
+  m_transforms.push_back(std::move(transform));
+  LayoutCheckBoxes();
+}
+
+void SeriesToggleInfo::Spacing(float spacing) {
+  host::Require(spacing > 0, "Invalid spacing, must be greater than 0");
+  Resize(m_height, spacing);
+}
+
+void SeriesToggleInfo::Height(float height) {
+  host::Require(height > 0, "Invalid height, must be greater than 0");
+  Resize(height, m_spacing);
+}
+
+void SeriesToggleInfo::ClearCheckBoxes() {
+  m_boxes.clear();
+  m_transforms.clear();
+  m_root->children.Clear();
+}
+
+std::int16_t SeriesToggleInfo::Count() const {
+  return Int16(static_cast<std::int64_t>(m_boxes.size()));
+}
+
+void SeriesToggleInfo::Resize(float height, float spacing) {
+  // Raises Overflow before anything moves.
+  (void)Single(Count() * (static_cast<double>(height) + spacing));
+  m_height = height;
+  m_spacing = spacing;
+  for (const auto& box : m_boxes) box->boxSize.Value(height);
+  LayoutCheckBoxes();
+}
+
+void SeriesToggleInfo::LayoutCheckBoxes() {
+  const float pitch = m_height + m_spacing;
+  auto below = static_cast<float>(m_transforms.size());
+  for (const auto& transform : m_transforms) transform->translation.Y(--below * pitch);
+}
+
+}  // namespace orvane

@@ -1,0 +1,51 @@
+#include "orvane/components/TextInfo.h"
+
+#include "orvane/host/Describe.h"
+#include "orvane/host/Trimmed.h"
+#include "orvane/scene/frmMain.h"
+
+namespace orvane {
+
+const host::TypeInfo& TextInfo::Type() const {
+  static const host::TypeInfo type =
+      host::Describe<TextInfo>("A line of text, fixed in the world or turning to face the viewer.")
+          .Property<bool>("IsBillboarded", &TextInfo::IsBillboarded, &TextInfo::IsBillboarded,
+                          {"Whether the text turns to face the viewer", "", "", "false"})
+          .Property<std::string>("Text", &TextInfo::Text, &TextInfo::Text,
+                                 {"The line; spaces around it are dropped", "", "", "\"\""})
+          .Property<std::int32_t>("TextColor", &TextInfo::TextColor, &TextInfo::TextColor,
+                                  {"Colour of the text", "host RGB", "0..16777215", "16777215"})
+          .Property<VRMLFontFamily>("TextFont", &TextInfo::TextFont, &TextInfo::TextFont,
+                                    {"Font family", "", "", "VRML_SERIF"})
+          .Property<VRMLFontStyle>("TextStyle", &TextInfo::TextStyle, &TextInfo::TextStyle,
+                                   {"Font style", "", "", "VRML_PLAIN"})
+          .Property<float>("TextHeight", &TextInfo::TextHeight, &TextInfo::TextHeight,
+                           {"Height of the line", "scene units", "> 0", "1"});
+  return type;
+}
+
+TextInfo::TextInfo()
+    : m_root(scene::Create<scene::Transform>()), m_billboard(scene::Create<scene::Billboard>()) {
+  m_root->children.Append(m_line.Node());
+}
+
+void TextInfo::IsBillboarded(bool isBillboarded) {
+  if (isBillboarded == m_isBillboarded) return;
+  m_root->children.Clear();
+  m_billboard->children.Clear();
+  if (isBillboarded) {
+    m_root->children.Append(m_billboard);
+    m_billboard->children.Append(m_line.Node());
+  } else {
+    m_root->children.Append(m_line.Node());
+  }
+  m_isBillboarded = isBillboarded;
+}
+
+void TextInfo::Text(const std::string& text) { m_line.FirstLine(host::Trimmed(text)); }
+
+void TextInfo::TextHeight(float height) {
+  m_line.Height(height, "Invalid Text height, must be greater than 0");
+}
+
+}  // namespace orvane

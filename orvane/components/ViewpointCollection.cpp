@@ -1,0 +1,36 @@
+#include "orvane/components/ViewpointCollection.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/Describe.h"
+#include "orvane/scene/frmMain.h"
+
+namespace orvane {
+
+const host::TypeInfo& ViewpointCollection::Type() const {
+  using Collection = ViewpointCollection;
+  static const host::TypeInfo type =
+      host::Describe<Collection>("The places from which a viewer can look at a chart.")
+          .Method("GetViewpoint", &Collection::GetViewpoint, {"Index"},
+                  {"One viewpoint", "", "1..Count"})
+          .Method("AddViewpoint", &Collection::AddViewpoint, {}, {"Adds a viewpoint"})
+          .Method("ClearViewpoints", &Collection::ClearViewpoints, {}, {"Removes all viewpoints"})
+          .Property<std::int16_t>("Count", &Collection::Count,
+                                  {"Number of viewpoints", "", "", "0"});
+  return type;
+}
+
+ViewpointCollection::ViewpointCollection() : m_root(scene::Create<scene::Group>()) {}
+
+std::shared_ptr<scene::Viewpoint> ViewpointCollection::GetViewpoint(std::int16_t index) const {
+  return std::dynamic_pointer_cast<scene::Viewpoint>(m_root->children.Item(index));
+}
+
+std::shared_ptr<scene::Viewpoint> ViewpointCollection::AddViewpoint() {
+  auto viewpoint = scene::Create<scene::Viewpoint>();
+  m_root->children.Append(viewpoint);
+  return viewpoint;
+}
+
+std::int16_t ViewpointCollection::Count() const { return host::Int16(m_root->children.Count()); }
+
+}  // namespace orvane
