@@ -1,0 +1,18 @@
+/// The public object model as a whole: every class, and charts by name.
+#pragma once
+
+#include "orvane/host/Object.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+
+/// A fresh object of each public class, charts first, then what they are made of, nodes and fields.
+ORVANE_API std::vector<std::shared_ptr<host::Object>> ObjectModel();
+
+/// A new chart of class `className`, such as "AreaGraph", in any case; nullptr when there is none.
+ORVANE_API std::shared_ptr<host::Object> CreateChart(std::string_view className);
+
+}  // namespace orvane

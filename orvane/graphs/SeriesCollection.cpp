@@ -1,0 +1,44 @@
+#include "orvane/graphs/SeriesCollection.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Describe.h"
+
+namespace orvane {
+
+const host::TypeInfo& SeriesCollection::Type() const {
+  using Collection = SeriesCollection;
+  static const host::TypeInfo type =
+      host::Describe<Collection>("An ordered list of series.")
+          .Method("Get1Series", &Collection::Get1Series, {"Index"}, {"One item", "", "1..Count"})
+          .Method("RemoveSeries", &Collection::RemoveSeries, {"Index"},
+                  {"Removes one item", "", "1..Count"})
+          .Method("AddSeries", &Collection::AddSeries, {"vNewValue"}, {"Adds an item at the end"})
+          .Method("ClearSeries", &Collection::ClearSeries, {}, {"Removes all items"})
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of items", "", "", "0"});
+  return type;
+}
+
+std::shared_ptr<ISeriesInfo> SeriesCollection::Get1Series(std::int16_t index) const {
+  return m_items[Position(index)];
+}
+
+void SeriesCollection::RemoveSeries(std::int16_t index) {
+  m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(Position(index)));
+}
+
+void SeriesCollection::AddSeries(const std::shared_ptr<ISeriesInfo>& vNewValue) {
+  (void)host::Int16(Count() + 1);
+  m_items.push_back(vNewValue);
+}
+
+std::int16_t SeriesCollection::Count() const {
+  return host::Int16(static_cast<std::int64_t>(m_items.size()));
+}
+
+std::size_t SeriesCollection::Position(std::int16_t index) const {
+  host::Require(index >= 1 && index <= Count(), "Invalid index into the list");
+  return static_cast<std::size_t>(index - 1);
+}
+
+}  // namespace orvane

@@ -1,0 +1,46 @@
+/// The ordered list in which every chart keeps its series, surfaces, slices or point frames.
+#pragma once
+
+#include "orvane/host/Object.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace orvane {
+
+/// The mark of everything that a SeriesCollection may hold.
+class ORVANE_API ISeriesInfo {
+ public:
+  static constexpr const char* kClassName = "ISeriesInfo";
+  virtual ~ISeriesInfo() = default;
+};
+
+/// Indexes count from 1; one outside 1..Count raises a component error. A collection may itself be
+/// held in one.
+class ORVANE_API SeriesCollection final : public host::Object, public ISeriesInfo {
+ public:
+  static constexpr const char* kClassName = "SeriesCollection";
+  const host::TypeInfo& Type() const override;
+
+  std::shared_ptr<ISeriesInfo> Get1Series(std::int16_t index) const;
+  /// Removes one item; later ones move down by a place.
+  void RemoveSeries(std::int16_t index);
+  /// Adds an item at the end; neither duplicates nor nothing are checked for.
+  void AddSeries(const std::shared_ptr<ISeriesInfo>& vNewValue);
+  void ClearSeries() { m_items.clear(); }
+  std::int16_t Count() const;
+
+  /// Item `index` as the class that its chart put in.
+  template <class T>
+  std::shared_ptr<T> Get(std::int16_t index) const {
+    return std::dynamic_pointer_cast<T>(Get1Series(index));
+  }
+
+ private:
+  std::size_t Position(std::int16_t index) const;
+
+  std::vector<std::shared_ptr<ISeriesInfo>> m_items;
+};
+
+}  // namespace orvane

@@ -1,0 +1,51 @@
+#include "orvane/graphs/grid/GridSeries.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/scene/frmMain.h"
+
+#include <utility>
+
+namespace orvane {
+
+GridSeries::GridSeries(std::vector<Variant> variants)
+    : m_variants(std::move(variants)),
+      m_popups(std::make_shared<SeriesPopupInfo>()),
+      m_root(scene::Create<scene::Transform>()),
+      m_toggle(scene::Create<scene::ContentToggle>()),
+      m_appearance(scene::Create<scene::Appearance>()),
+      m_material(scene::Create<scene::Material>()) {
+  m_toggle->contentsExist.Value(true);
+  m_appearance->material.Value(m_material);
+  m_root->children.Append(m_toggle);
+  m_toggle->contents.Append(m_variants.front().node);
+  // Hiding the series hides its popups too.
+  m_toggle->contents.Append(m_popups->RootNode());
+}
+
+void GridSeries::Depth(float depth) {
+  host::Require(depth > 0, "Invalid series depth, must be greater than 0");
+  constexpr double kPopupReach = 0.4;
+  constexpr double kPopupDepth = 1.05;  // Just outside the shape, so that the strip is hit first.
+  const float radius = host::Single(kPopupReach * depth);
+  const float popupDepth = host::Single(kPopupDepth * depth);
+  for (const auto& variant : m_variants) variant.depth->Value(depth);
+  m_popups->radius(radius);
+  m_popups->Depth(popupDepth);
+}
+
+void GridSeries::Spacing(float spacing) {
+  host::Require(spacing > 0, "Invalid spacing, must be greater than 0");
+  for (const auto& variant : m_variants) variant.spacing->Value(spacing);
+  m_popups->Spacing(spacing);
+}
+
+std::int16_t GridSeries::Count() const { return host::Int16(m_variants.front().count->Value()); }
+
+void GridSeries::Count(std::int16_t count) {
+  host::Require(count >= 1, "Invalid count, must be greater than 0");
+  for (const auto& variant : m_variants) variant.count->Value(count);
+  m_popups->Count(count);
+}
+
+}  // namespace orvane

@@ -1,0 +1,52 @@
+/// A grid chart with one series in each Z cell.
+#pragma once
+
+#include "orvane/graphs/grid/GridGraph.h"
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace orvane {
+
+/// `S` is the class of its series. Their number follows the grid's Z cell count.
+template <class S>
+class SeriesGraph : public GridGraph {
+ public:
+  /// Series `index`, 1..the number of series; a component error otherwise.
+  std::shared_ptr<S> GetSeries(std::int16_t index) const {
+    if (index < 1 || index > m_series->Count()) {
+      throw host::AutomationError(
+          host::ErrorNumber::Component,
+          "Invalid series index, series count = " + std::to_string(m_series->Count()));
+    }
+    return m_series->Get<S>(index);
+  }
+
+ protected:
+  SeriesGraph() {
+    m_zCellCountChanged = Grid().ZCellCountChanged.Connect(
+        [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
+  }
+
+  void BuildSeries() override {
+    LegendWiring legend(Legend(), Routes());
+    SeriesGroup().children.Clear();
+    const float x = host::Single(CellWidth() / 2.0);
+    for (std::int16_t i = 1; i <= m_series->Count(); ++i) {
+      LayOutSeries(*m_series->Get<S>(i), x, i, std::to_string(i), legend);
+    }
+  }
+
+ private:
+  void m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
+    ResizeRows(*m_series, newCount, [] { return std::make_shared<S>(); });
+  }
+
+  std::shared_ptr<SeriesCollection> m_series = std::make_shared<SeriesCollection>();
+  host::Subscription m_zCellCountChanged;
+};
+
+}  // namespace orvane

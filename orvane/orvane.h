@@ -1,0 +1,8 @@
+/// The public object model of Orvane: include this.
+#pragma once
+
+#include "orvane/control/ObjectModel.h"
+#include "orvane/control/OrvaneScaler.h"
+#include "orvane/graphs/grid/AreaGraph.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/scene/OrvaneModule.h"
