@@ -5,6 +5,8 @@
 #include "orvane/host/Describe.h"
 #include "orvane/scene/frmMain.h"
 
+#include <limits>
+
 namespace orvane {
 namespace {
 
@@ -18,17 +20,28 @@ float Extent(const scene::SFInt32& lineCount, const scene::SFFloat& spacing) {
   return Single(static_cast<double>(spacing.Value()) * CellCount(lineCount));
 }
 
+/// The size of one of `cells` cells. Raises Overflow when that is too small for a float of full
+/// precision, so that sizes taken from it never come to 0.
+float CellSize(float extent, std::int16_t cells) {
+  const float size = Single(Quotient(extent, cells));
+  if (size < std::numeric_limits<float>::min()) {
+    throw host::AutomationError(host::ErrorNumber::Overflow,
+                                "Overflow: a grid cell of that size does not fit a 32-bit float");
+  }
+  return size;
+}
+
 void SetExtent(float extent, const scene::SFInt32& lineCount, scene::SFFloat& spacing,
                const char* message) {
   host::Require(extent > 0, message);
-  spacing.Value(Single(Quotient(extent, CellCount(lineCount))));
+  spacing.Value(CellSize(extent, CellCount(lineCount)));
 }
 
 void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat& spacing,
                   const char* message) {
   host::Require(count >= 1, message);
   const std::int16_t lines = Int16(count + 1);
-  const float cell = Single(Quotient(Extent(lineCount, spacing), count));
+  const float cell = CellSize(Extent(lineCount, spacing), count);
   lineCount.Value(lines);
   spacing.Value(cell);
 }

@@ -12,7 +12,7 @@
 namespace orvane {
 
 /// A Shape with Text, FontStyle, Appearance and Material: white, SERIF, no string.
-class TextShape {
+class ORVANE_API TextShape {
  public:
   /// `justification` is the only entry of the FontStyle's justify.
   explicit TextShape(const char* justification);

@@ -25,7 +25,7 @@ enum class ErrorNumber : std::uint32_t {
   NodeNotInList = 0x80040202,      ///< Remove of a node that the list does not hold.
   NoNode = 0x80040203,             ///< Nothing where a node is needed.
   NotFinite = 0x80040204,          ///< NaN or infinity for a field.
-  ColorRange = 0x80040205,         ///< A colour that is not 0..0xFFFFFF, or a component not 0..1.
+  OutOfRange = 0x80040205,         ///< A number or colour that VRML97 does not let a field hold.
   UnknownType = 0x80040206,        ///< CreateNode, CreateField, CreateTraverser: no such name.
   InvalidDefName = 0x80040207,     ///< A DEF name that VRML97 cannot write.
   DuplicateDefName = 0x80040208,   ///< Two nodes of one scene with the same DEF name.

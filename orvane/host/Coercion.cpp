@@ -43,6 +43,7 @@ std::string ToText(const Value& value) {
   if (const auto* text = value.If<std::string>()) return *text;
   if (const auto* truth = value.If<bool>()) return *truth ? "True" : "False";
   if (const auto* whole = value.If<std::int32_t>()) return Shortest(*whole);
+  if (const auto* number = value.If<float>()) return Shortest(*number);
   if (const auto* number = value.If<double>()) return Shortest(*number);
   throw AutomationError(ErrorNumber::TypeMismatch,
                         "Type mismatch: expected a String, got " + value.Describe());
@@ -67,6 +68,7 @@ bool ToBoolean(const Value& value, const Place& place) {
 
 double ToNumber(const Value& value, const Place& place) {
   if (const auto* number = value.If<double>()) return *number;
+  if (const auto* number = value.If<float>()) return static_cast<double>(*number);
   if (const auto* whole = value.If<std::int32_t>()) return *whole;
   if (const auto* truth = value.If<bool>()) return *truth ? -1 : 0;
   double number = 0;

@@ -77,7 +77,7 @@ template <>
 struct Automation<float> {
   static ValueType Type() { return {"Single", nullptr}; }
   static float From(const Value& value, const Place& place) { return ToSingle(value, place); }
-  static Value To(float value) { return static_cast<double>(value); }
+  static Value To(float value) { return value; }
 };
 
 template <>
@@ -104,12 +104,14 @@ struct Automation<E> {
   static Value To(E value) { return static_cast<std::int32_t>(value); }
 };
 
-/// Objects cross by owning pointer, under the name of their class (`T::kClassName`).
+/// Objects cross by owning pointer, under the name of their class (`T::kClassName`). No object is
+/// nullptr; whether that will do is for the member to say.
 template <class T>
 struct Automation<std::shared_ptr<T>> {
   static ValueType Type() { return {T::kClassName, nullptr}; }
   static std::shared_ptr<T> From(const Value& value, const Place& place) {
     const auto* object = value.If<std::shared_ptr<Object>>();
+    if (object != nullptr && *object == nullptr) return nullptr;
     auto typed = object == nullptr ? nullptr : std::dynamic_pointer_cast<T>(*object);
     if (typed == nullptr)
       RaiseMismatch(value, std::string("an object of class ") + T::kClassName, place);

@@ -17,7 +17,7 @@ const std::shared_ptr<Object>& Value::AsObject() const {
 
 std::string Value::Describe() const {
   if (const auto* value = If<bool>()) return *value ? "Boolean true" : "Boolean false";
-  if (If<std::int32_t>() || If<double>()) return "number " + ToText(*this);
+  if (If<std::int32_t>() || If<float>() || If<double>()) return "number " + ToText(*this);
   if (const auto* value = If<std::string>()) return "String \"" + *value + "\"";
   if (If<Numbers>()) return "a row of numbers";
   if (const auto* value = If<std::shared_ptr<Object>>()) {

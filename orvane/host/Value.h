@@ -14,7 +14,8 @@ namespace orvane::host {
 
 class Object;
 
-/// Nothing, a truth value, a whole number, a number, a text, a row of numbers, or an object.
+/// Nothing, a truth value, a whole number, a 32-bit or 64-bit float, a text, a row of numbers, or
+/// an object.
 class ORVANE_API Value {
  public:
   using Numbers = std::vector<double>;
@@ -22,6 +23,7 @@ class ORVANE_API Value {
   Value() = default;
   Value(bool value) : m_storage(value) {}                    // NOLINT(google-explicit-constructor)
   Value(std::int32_t value) : m_storage(value) {}            // NOLINT(google-explicit-constructor)
+  Value(float value) : m_storage(value) {}                   // NOLINT(google-explicit-constructor)
   Value(double value) : m_storage(value) {}                  // NOLINT(google-explicit-constructor)
   Value(std::string value) : m_storage(std::move(value)) {}  // NOLINT(google-explicit-constructor)
   Value(const char* value)
@@ -47,7 +49,7 @@ class ORVANE_API Value {
   friend bool operator==(const Value&, const Value&) = default;
 
  private:
-  std::variant<std::monostate, bool, std::int32_t, double, std::string, Numbers,
+  std::variant<std::monostate, bool, std::int32_t, float, double, std::string, Numbers,
                std::shared_ptr<Object>>
       m_storage;
 };

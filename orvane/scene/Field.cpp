@@ -3,6 +3,8 @@
 #include "orvane/scene/Node.h"
 #include "orvane/scene/SceneError.h"
 
+#include <sstream>
+
 namespace orvane::scene {
 
 const char* NameOf(AccessKind access) {
@@ -36,8 +38,14 @@ std::string Field::Where() const {
   return m_owner == nullptr ? Type().Name() : m_owner->TypeName() + std::string(".") + m_name;
 }
 
-void Field::RaiseNotFinite() const {
-  Raise(host::ErrorNumber::NotFinite, Where() + " takes finite numbers only");
+void Field::RaiseRange(double value, const Interval& range) const {
+  if (!(value - value == 0)) {
+    Raise(host::ErrorNumber::NotFinite, Where() + " takes finite numbers only");
+  }
+  std::ostringstream message;
+  message << Where() << " takes numbers in the range " << (range.isOpen ? '(' : '[') << range.low
+          << ".." << range.high << (range.isOpen ? ')' : ']') << ", got " << value;
+  Raise(host::ErrorNumber::OutOfRange, message.str());
 }
 
 }  // namespace orvane::scene

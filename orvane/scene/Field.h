@@ -4,6 +4,7 @@
 #include "orvane/host/Object.h"
 
 #include <functional>
+#include <limits>
 #include <memory>
 #include <string>
 
@@ -26,6 +27,22 @@ struct InterfaceEntry {
   AccessKind access;
   Field* field;  ///< nullptr for an eventIn or eventOut, which hold no value.
 };
+
+/// What VRML97 lets a number be, as the standard writes it: "[0,1]", "(0,inf)".
+struct Interval {
+  double low = -std::numeric_limits<double>::infinity();
+  double high = std::numeric_limits<double>::infinity();
+  bool isOpen = false;  ///< Neither end belongs to it.
+
+  bool Contains(double value) const {
+    return isOpen ? value > low && value < high : value >= low && value <= high;
+  }
+};
+
+inline constexpr Interval kAnyNumber{};
+inline constexpr Interval kUnit{0, 1};
+inline constexpr Interval kPositive{0, std::numeric_limits<double>::infinity(), true};
+inline constexpr Interval kNotNegative{0};
 
 /// A field object: bound to its node for life, or free-standing. Changing it changes the scene.
 class ORVANE_API Field : public host::Object {
@@ -50,14 +67,14 @@ class ORVANE_API Field : public host::Object {
   /// Becomes the next entry of the interface of `owner`.
   Field(Node& owner, const char* name, const char* type, AccessKind access);
 
-  /// `value`, or a NotFinite error that names the field.
+  /// `value` when it is finite and in `range`; else NotFinite or OutOfRange, naming the field.
   template <class T>
-  T Finite(T value) const {
-    if (!(value - value == 0)) RaiseNotFinite();
+  T Checked(T value, const Interval& range = kAnyNumber) const {
+    if (!(value - value == 0) || !range.Contains(value)) RaiseRange(value, range);
     return value;
   }
 
-  [[noreturn]] void RaiseNotFinite() const;
+  [[noreturn]] void RaiseRange(double value, const Interval& range) const;
 
  private:
   Node* m_owner = nullptr;

@@ -13,7 +13,7 @@ class ORVANE_API PlacedProto : public ProtoInstance {
  public:
   SFVec3f translation{*this, "translation", {0, 0, 0}};
   SFRotation rotation{*this, "rotation", {0, 0, 1, 0}};
-  SFVec3f scale{*this, "scale", {1, 1, 1}};
+  SFVec3f scale{*this, "scale", {1, 1, 1}, kPositive};
 };
 
 template <class Self>

@@ -46,7 +46,7 @@ class ORVANE_API Transform final : public NodeOf<Transform> {
   EventIn<MFNode> removeChildren{*this, "removeChildren"};
   SFVec3f center{*this, "center", {0, 0, 0}};
   SFRotation rotation{*this, "rotation", {0, 0, 1, 0}};
-  SFVec3f scale{*this, "scale", {1, 1, 1}};
+  SFVec3f scale{*this, "scale", {1, 1, 1}, kPositive};
   SFRotation scaleOrientation{*this, "scaleOrientation", {0, 0, 1, 0}};
   SFVec3f translation{*this, "translation", {0, 0, 0}};
   SFVec3f bboxCenter{*this, "bboxCenter", {0, 0, 0}, AccessKind::Field};

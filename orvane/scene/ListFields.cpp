@@ -180,24 +180,24 @@ void MFString::Insert(std::int32_t index, const std::string& text) {
   m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), text);
 }
 
-Color MFColor::Checked(float red, float green, float blue) const {
+Color MFColor::CheckedColor(float red, float green, float blue) const {
   for (const float component : {red, green, blue}) {
     if (!(component >= 0 && component <= 1)) {
-      Raise(ErrorNumber::ColorRange, Where() + " takes components in the range [0..1]");
+      Raise(ErrorNumber::OutOfRange, Where() + " takes components in the range [0..1]");
     }
   }
   return {red, green, blue};
 }
 
-void MFNode::Append(const std::shared_ptr<Node>& node) { m_items.push_back(Checked(node)); }
+void MFNode::Append(const std::shared_ptr<Node>& node) { m_items.push_back(CheckedNode(node)); }
 
 void MFNode::Insert(std::int32_t index, const std::shared_ptr<Node>& node) {
   const auto place = index == Count() + 1 ? m_items.size() : Position(index);
-  m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), Checked(node));
+  m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), CheckedNode(node));
 }
 
 void MFNode::Remove(const std::shared_ptr<Node>& node) {
-  const auto found = std::ranges::find(m_items, Checked(node));
+  const auto found = std::ranges::find(m_items, CheckedNode(node));
   if (found == m_items.end()) {
     Raise(ErrorNumber::NodeNotInList,
           Where() + " does not hold this " + node->TypeName() + ", so it cannot be removed");
@@ -205,7 +205,7 @@ void MFNode::Remove(const std::shared_ptr<Node>& node) {
   m_items.erase(found);
 }
 
-const std::shared_ptr<Node>& MFNode::Checked(const std::shared_ptr<Node>& node) const {
+const std::shared_ptr<Node>& MFNode::CheckedNode(const std::shared_ptr<Node>& node) const {
   if (node == nullptr) Raise(ErrorNumber::NoNode, Where() + " takes nodes only");
   return node;
 }

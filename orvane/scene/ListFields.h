@@ -87,14 +87,16 @@ class ORVANE_API MFFloat final : public ListField<MFFloat, float> {
   const host::TypeInfo& Type() const override;
 
   MFFloat() = default;
-  MFFloat(Node& owner, const char* name, List items = {},
-          AccessKind access = AccessKind::ExposedField)
-      : ListField(owner, name, std::move(items), access) {}
+  MFFloat(Node& owner, const char* name, List items = {}, Interval range = kAnyNumber)
+      : ListField(owner, name, std::move(items), AccessKind::ExposedField), m_range(range) {}
 
   using ListField::Item;
-  /// Numbers are finite; NotFinite otherwise.
-  void Item(std::int32_t index, float value) { m_items[Position(index)] = Finite(value); }
-  void Append(float value) { m_items.push_back(Finite(value)); }
+  /// Numbers are finite and in the node's range; NotFinite or OutOfRange otherwise.
+  void Item(std::int32_t index, float value) { m_items[Position(index)] = Checked(value, m_range); }
+  void Append(float value) { m_items.push_back(Checked(value, m_range)); }
+
+ private:
+  Interval m_range;
 };
 
 class ORVANE_API MFColor final : public ListField<MFColor, Color> {
@@ -107,14 +109,16 @@ class ORVANE_API MFColor final : public ListField<MFColor, Color> {
           AccessKind access = AccessKind::ExposedField)
       : ListField(owner, name, std::move(items), access) {}
 
-  /// Components lie in [0, 1]; ColorRange otherwise.
+  /// Components lie in [0, 1]; OutOfRange otherwise.
   void SetItem(std::int32_t index, float red, float green, float blue) {
-    m_items[Position(index)] = Checked(red, green, blue);
+    m_items[Position(index)] = CheckedColor(red, green, blue);
   }
-  void Append(float red, float green, float blue) { m_items.push_back(Checked(red, green, blue)); }
+  void Append(float red, float green, float blue) {
+    m_items.push_back(CheckedColor(red, green, blue));
+  }
 
  private:
-  Color Checked(float red, float green, float blue) const;
+  Color CheckedColor(float red, float green, float blue) const;
 };
 
 class ORVANE_API MFVec2f final : public ListField<MFVec2f, Vec2f> {
@@ -128,7 +132,7 @@ class ORVANE_API MFVec2f final : public ListField<MFVec2f, Vec2f> {
       : ListField(owner, name, std::move(items), access) {}
 
   /// Numbers are finite; NotFinite otherwise.
-  void Append(float x, float y) { m_items.push_back({Finite(x), Finite(y)}); }
+  void Append(float x, float y) { m_items.push_back({Checked(x), Checked(y)}); }
 };
 
 class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
@@ -142,7 +146,9 @@ class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
       : ListField(owner, name, std::move(items), access) {}
 
   /// Numbers are finite; NotFinite otherwise.
-  void Append(float x, float y, float z) { m_items.push_back({Finite(x), Finite(y), Finite(z)}); }
+  void Append(float x, float y, float z) {
+    m_items.push_back({Checked(x), Checked(y), Checked(z)});
+  }
 };
 
 class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> {
@@ -164,7 +170,7 @@ class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> 
   void VisitNodes(const std::function<void(const Node&)>& visit) const override;
 
  private:
-  const std::shared_ptr<Node>& Checked(const std::shared_ptr<Node>& node) const;
+  const std::shared_ptr<Node>& CheckedNode(const std::shared_ptr<Node>& node) const;
 };
 
 }  // namespace orvane::scene

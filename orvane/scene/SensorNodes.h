@@ -6,7 +6,12 @@
 #include "orvane/scene/Node.h"
 #include "orvane/scene/SingleFields.h"
 
+#include <numbers>
+
 namespace orvane::scene {
+
+/// [-2pi,2pi]
+inline constexpr Interval kTwoTurns{-2 * std::numbers::pi, 2 * std::numbers::pi};
 
 ///     TouchSensor {
 ///       exposedField SFBool  enabled TRUE
@@ -74,10 +79,10 @@ class ORVANE_API CylinderSensor final : public NodeOf<CylinderSensor> {
   static constexpr const char* kClassName = "CylinderSensor";
 
   SFBool autoOffset{*this, "autoOffset", true};
-  SFFloat diskAngle{*this, "diskAngle", 0.262F};
+  SFFloat diskAngle{*this, "diskAngle", 0.262F, Interval{0, std::numbers::pi / 2}};
   SFBool enabled{*this, "enabled", true};
-  SFFloat maxAngle{*this, "maxAngle", -1};
-  SFFloat minAngle{*this, "minAngle", 0};
+  SFFloat maxAngle{*this, "maxAngle", -1, kTwoTurns};
+  SFFloat minAngle{*this, "minAngle", 0, kTwoTurns};
   SFFloat offset{*this, "offset", 0};
   EventOut<SFBool> isActive{*this, "isActive"};
   EventOut<SFRotation> rotation_changed{*this, "rotation_changed"};
@@ -99,7 +104,7 @@ class ORVANE_API TimeSensor final : public NodeOf<TimeSensor> {
  public:
   static constexpr const char* kClassName = "TimeSensor";
 
-  SFTime cycleInterval{*this, "cycleInterval", 1};
+  SFTime cycleInterval{*this, "cycleInterval", 1, kPositive};
   SFBool enabled{*this, "enabled", true};
   SFBool loop{*this, "loop", false};
   SFTime startTime{*this, "startTime", 0};

@@ -47,12 +47,12 @@ class ORVANE_API Material final : public NodeOf<Material> {
  public:
   static constexpr const char* kClassName = "Material";
 
-  SFFloat ambientIntensity{*this, "ambientIntensity", 0.2F};
+  SFFloat ambientIntensity{*this, "ambientIntensity", 0.2F, kUnit};
   SFColor diffuseColor{*this, "diffuseColor", {0.8F, 0.8F, 0.8F}};
   SFColor emissiveColor{*this, "emissiveColor", {0, 0, 0}};
-  SFFloat shininess{*this, "shininess", 0.2F};
+  SFFloat shininess{*this, "shininess", 0.2F, kUnit};
   SFColor specularColor{*this, "specularColor", {0, 0, 0}};
-  SFFloat transparency{*this, "transparency", 0};
+  SFFloat transparency{*this, "transparency", 0, kUnit};
 };
 
 /// Flat text, one line an entry of `string`.
@@ -69,8 +69,8 @@ class ORVANE_API Text final : public NodeOf<Text> {
 
   MFString string{*this, "string"};
   SFNode fontStyle{*this, "fontStyle"};
-  MFFloat length{*this, "length"};
-  SFFloat maxExtent{*this, "maxExtent", 0};
+  MFFloat length{*this, "length", {}, kNotNegative};
+  SFFloat maxExtent{*this, "maxExtent", 0, kNotNegative};
 };
 
 ///     FontStyle {
@@ -93,8 +93,8 @@ class ORVANE_API FontStyle final : public NodeOf<FontStyle> {
   MFString justify{*this, "justify", {"BEGIN"}, AccessKind::Field};
   SFString language{*this, "language", "", AccessKind::Field};
   SFBool leftToRight{*this, "leftToRight", true, AccessKind::Field};
-  SFFloat size{*this, "size", 1, AccessKind::Field};
-  SFFloat spacing{*this, "spacing", 1, AccessKind::Field};
+  SFFloat size{*this, "size", 1, AccessKind::Field, kPositive};
+  SFFloat spacing{*this, "spacing", 1, AccessKind::Field, kNotNegative};
   SFString style{*this, "style", "PLAIN", AccessKind::Field};
   SFBool topToBottom{*this, "topToBottom", true, AccessKind::Field};
 };
@@ -111,8 +111,8 @@ class ORVANE_API Cone final : public NodeOf<Cone> {
  public:
   static constexpr const char* kClassName = "Cone";
 
-  SFFloat bottomRadius{*this, "bottomRadius", 1, AccessKind::Field};
-  SFFloat height{*this, "height", 2, AccessKind::Field};
+  SFFloat bottomRadius{*this, "bottomRadius", 1, AccessKind::Field, kPositive};
+  SFFloat height{*this, "height", 2, AccessKind::Field, kPositive};
   SFBool side{*this, "side", true, AccessKind::Field};
   SFBool bottom{*this, "bottom", true, AccessKind::Field};
 };
@@ -131,8 +131,8 @@ class ORVANE_API Cylinder final : public NodeOf<Cylinder> {
   static constexpr const char* kClassName = "Cylinder";
 
   SFBool bottom{*this, "bottom", true, AccessKind::Field};
-  SFFloat height{*this, "height", 2, AccessKind::Field};
-  SFFloat radius{*this, "radius", 1, AccessKind::Field};
+  SFFloat height{*this, "height", 2, AccessKind::Field, kPositive};
+  SFFloat radius{*this, "radius", 1, AccessKind::Field, kPositive};
   SFBool side{*this, "side", true, AccessKind::Field};
   SFBool top{*this, "top", true, AccessKind::Field};
 };

@@ -107,7 +107,7 @@ std::int32_t SFColor::Value() const {
 
 void SFColor::Value(std::int32_t rgb) {
   if (rgb < 0 || rgb > 0xFFFFFF) {
-    Raise(host::ErrorNumber::ColorRange,
+    Raise(host::ErrorNumber::OutOfRange,
           Where() + " takes a colour in the range [0..16777215], got " + std::to_string(rgb));
   }
   const auto component = [rgb](int shift) {
@@ -117,14 +117,14 @@ void SFColor::Value(std::int32_t rgb) {
 }
 
 void SFRotation::SetValue(float x, float y, float z, float angle) {
-  m_value = {Finite(x), Finite(y), Finite(z), Finite(angle)};
+  m_value = {Checked(x), Checked(y), Checked(z), Checked(angle)};
 }
 
 void SFRotation::SetFromAngles(float ax, float ay, float az) {
   // The product qz * qy * qx of the three half-angle quaternions.
-  const double cx = std::cos(Finite(ax) / 2.0), sx = std::sin(ax / 2.0);
-  const double cy = std::cos(Finite(ay) / 2.0), sy = std::sin(ay / 2.0);
-  const double cz = std::cos(Finite(az) / 2.0), sz = std::sin(az / 2.0);
+  const double cx = std::cos(Checked(ax) / 2.0), sx = std::sin(ax / 2.0);
+  const double cy = std::cos(Checked(ay) / 2.0), sy = std::sin(ay / 2.0);
+  const double cz = std::cos(Checked(az) / 2.0), sz = std::sin(az / 2.0);
   double w = cz * cy * cx + sz * sy * sx;
   std::array<double, 3> v = {cz * cy * sx - sz * sy * cx, cz * sy * cx + sz * cy * sx,
                              sz * cy * cx - cz * sy * sx};

@@ -67,14 +67,20 @@ class ORVANE_API SFFloat final : public SingleField<SFFloat, float> {
   const host::TypeInfo& Type() const override;
 
   SFFloat() = default;
-  SFFloat(Node& owner, const char* name, float value, AccessKind access = AccessKind::ExposedField)
-      : SingleField(owner, name, value, access) {}
+  SFFloat(Node& owner, const char* name, float value, AccessKind access = AccessKind::ExposedField,
+          Interval range = kAnyNumber)
+      : SingleField(owner, name, value, access), m_range(range) {}
+  SFFloat(Node& owner, const char* name, float value, Interval range)
+      : SFFloat(owner, name, value, AccessKind::ExposedField, range) {}
 
   float Value() const { return m_value; }
-  /// Any finite number; NotFinite otherwise.
-  void Value(float value) { m_value = Finite(value); }
+  /// A finite number in the node's range; NotFinite or OutOfRange otherwise.
+  void Value(float value) { m_value = Checked(value, m_range); }
 
   void Write(SceneWriter& out) const override;
+
+ private:
+  Interval m_range;
 };
 
 /// Seconds; points in time count from 1 January 1970, 00:00 GMT.
@@ -84,14 +90,17 @@ class ORVANE_API SFTime final : public SingleField<SFTime, double> {
   const host::TypeInfo& Type() const override;
 
   SFTime() = default;
-  SFTime(Node& owner, const char* name, double value, AccessKind access = AccessKind::ExposedField)
-      : SingleField(owner, name, value, access) {}
+  SFTime(Node& owner, const char* name, double value, Interval range = kAnyNumber)
+      : SingleField(owner, name, value, AccessKind::ExposedField), m_range(range) {}
 
   double Value() const { return m_value; }
-  /// Any finite number; NotFinite otherwise.
-  void Value(double value) { m_value = Finite(value); }
+  /// A finite number in the node's range; NotFinite or OutOfRange otherwise.
+  void Value(double value) { m_value = Checked(value, m_range); }
 
   void Write(SceneWriter& out) const override;
+
+ private:
+  Interval m_range;
 };
 
 class ORVANE_API SFString final : public SingleField<SFString, std::string> {
@@ -122,7 +131,7 @@ class ORVANE_API SFColor final : public SingleField<SFColor, Color> {
       : SingleField(owner, name, value, access) {}
 
   std::int32_t Value() const;
-  /// 0..0xFFFFFF; ColorRange otherwise.
+  /// 0..0xFFFFFF; OutOfRange otherwise.
   void Value(std::int32_t rgb);
   float Red() const { return m_value.red; }
   float Green() const { return m_value.green; }
@@ -142,8 +151,8 @@ class ORVANE_API SFVec2f final : public SingleField<SFVec2f, Vec2f> {
 
   float X() const { return m_value.x; }
   float Y() const { return m_value.y; }
-  void X(float x) { m_value.x = Finite(x); }
-  void Y(float y) { m_value.y = Finite(y); }
+  void X(float x) { m_value.x = Checked(x); }
+  void Y(float y) { m_value.y = Checked(y); }
 
   void Write(SceneWriter& out) const override;
 };
@@ -156,15 +165,21 @@ class ORVANE_API SFVec3f final : public SingleField<SFVec3f, Vec3f> {
   SFVec3f() = default;
   SFVec3f(Node& owner, const char* name, Vec3f value, AccessKind access = AccessKind::ExposedField)
       : SingleField(owner, name, value, access) {}
+  /// With a range that each component keeps to.
+  SFVec3f(Node& owner, const char* name, Vec3f value, Interval range)
+      : SingleField(owner, name, value, AccessKind::ExposedField), m_range(range) {}
 
   float X() const { return m_value.x; }
   float Y() const { return m_value.y; }
   float Z() const { return m_value.z; }
-  void X(float x) { m_value.x = Finite(x); }
-  void Y(float y) { m_value.y = Finite(y); }
-  void Z(float z) { m_value.z = Finite(z); }
+  void X(float x) { m_value.x = Checked(x, m_range); }
+  void Y(float y) { m_value.y = Checked(y, m_range); }
+  void Z(float z) { m_value.z = Checked(z, m_range); }
 
   void Write(SceneWriter& out) const override;
+
+ private:
+  Interval m_range;
 };
 
 class ORVANE_API SFRotation final : public SingleField<SFRotation, Rotation> {

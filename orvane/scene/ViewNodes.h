@@ -6,6 +6,8 @@
 #include "orvane/scene/Node.h"
 #include "orvane/scene/SingleFields.h"
 
+#include <numbers>
+
 namespace orvane::scene {
 
 ///     Background {
@@ -27,7 +29,7 @@ class ORVANE_API Background final : public NodeOf<Background> {
   static constexpr const char* kClassName = "Background";
 
   EventIn<SFBool> set_bind{*this, "set_bind"};
-  MFFloat groundAngle{*this, "groundAngle"};
+  MFFloat groundAngle{*this, "groundAngle", {}, Interval{0, std::numbers::pi / 2}};
   MFColor groundColor{*this, "groundColor"};
   MFString backUrl{*this, "backUrl"};
   MFString bottomUrl{*this, "bottomUrl"};
@@ -35,7 +37,7 @@ class ORVANE_API Background final : public NodeOf<Background> {
   MFString leftUrl{*this, "leftUrl"};
   MFString rightUrl{*this, "rightUrl"};
   MFString topUrl{*this, "topUrl"};
-  MFFloat skyAngle{*this, "skyAngle"};
+  MFFloat skyAngle{*this, "skyAngle", {}, Interval{0, std::numbers::pi}};
   MFColor skyColor{*this, "skyColor", {{0, 0, 0}}};
   EventOut<SFBool> isBound{*this, "isBound"};
 };
@@ -54,11 +56,11 @@ class ORVANE_API NavigationInfo final : public NodeOf<NavigationInfo> {
   static constexpr const char* kClassName = "NavigationInfo";
 
   EventIn<SFBool> set_bind{*this, "set_bind"};
-  MFFloat avatarSize{*this, "avatarSize", {0.25F, 1.6F, 0.75F}};
+  MFFloat avatarSize{*this, "avatarSize", {0.25F, 1.6F, 0.75F}, kNotNegative};
   SFBool headlight{*this, "headlight", true};
-  SFFloat speed{*this, "speed", 1};
+  SFFloat speed{*this, "speed", 1, kNotNegative};
   MFString type{*this, "type", {"WALK", "ANY"}};
-  SFFloat visibilityLimit{*this, "visibilityLimit", 0};
+  SFFloat visibilityLimit{*this, "visibilityLimit", 0, kNotNegative};
   EventOut<SFBool> isBound{*this, "isBound"};
 };
 
@@ -77,7 +79,7 @@ class ORVANE_API Viewpoint final : public NodeOf<Viewpoint> {
   static constexpr const char* kClassName = "Viewpoint";
 
   EventIn<SFBool> set_bind{*this, "set_bind"};
-  SFFloat fieldOfView{*this, "fieldOfView", 0.785398F};
+  SFFloat fieldOfView{*this, "fieldOfView", 0.785398F, Interval{0, std::numbers::pi, true}};
   SFBool jump{*this, "jump", true};
   SFRotation orientation{*this, "orientation", {0, 0, 1, 0}};
   SFVec3f position{*this, "position", {0, 0, 10}};
@@ -99,13 +101,13 @@ class ORVANE_API PointLight final : public NodeOf<PointLight> {
  public:
   static constexpr const char* kClassName = "PointLight";
 
-  SFFloat ambientIntensity{*this, "ambientIntensity", 0};
-  SFVec3f attenuation{*this, "attenuation", {1, 0, 0}};
+  SFFloat ambientIntensity{*this, "ambientIntensity", 0, kUnit};
+  SFVec3f attenuation{*this, "attenuation", {1, 0, 0}, kNotNegative};
   SFColor color{*this, "color", {1, 1, 1}};
-  SFFloat intensity{*this, "intensity", 1};
+  SFFloat intensity{*this, "intensity", 1, kUnit};
   SFVec3f location{*this, "location", {0, 0, 0}};
   SFBool on{*this, "on", true};
-  SFFloat radius{*this, "radius", 100};
+  SFFloat radius{*this, "radius", 100, kNotNegative};
 };
 
 }  // namespace orvane::scene
