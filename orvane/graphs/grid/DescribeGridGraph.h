@@ -51,4 +51,15 @@ void DescribeExport(host::Describe<G>& graph) {
               {"The world as text"});
 }
 
+/// All members of a chart with one series in each Z cell.
+template <class G>
+void DescribeSeriesGraph(host::Describe<G>& graph) {
+  graph.With(DescribeComponents<G>)
+      .Method("GetSeries", &G::GetSeries, {"Index"},
+              {"One series; their number is the grid's Z cell count", "", "1..number of series"})
+      .With(DescribeInteractivity<G>)
+      .With(DescribeViews<G>)
+      .With(DescribeExport<G>);
+}
+
 }  // namespace orvane

@@ -2,6 +2,7 @@
 
 #include "orvane/graphs/AxisPlacement.h"
 #include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {
@@ -153,6 +154,11 @@ void GridGraph::ResizeRows(SeriesCollection& rows, std::int16_t count,
     series->Depth(depth);
     rows.AddSeries(series);
   }
+}
+
+void GridGraph::RequireSeries(std::int16_t index, const SeriesCollection& rows) {
+  const auto message = "Invalid series index, series count = " + std::to_string(rows.Count());
+  host::Require(index >= 1 && index <= rows.Count(), message.c_str());
 }
 
 std::shared_ptr<scene::Node> GridGraph::LayOutSeries(GridSeries& series, float x, std::int16_t row,

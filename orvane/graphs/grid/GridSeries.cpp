@@ -23,15 +23,22 @@ GridSeries::GridSeries(std::vector<Variant> variants)
   m_toggle->contents.Append(m_popups->RootNode());
 }
 
+void GridSeries::Show(std::size_t index) {
+  if (index == m_shown) return;
+  m_toggle->contents.Remove(m_variants[m_shown].node);
+  m_toggle->contents.Append(m_variants[index].node);
+  m_variants[m_shown].heights->CopyTo(*m_variants[index].heights);
+  m_shown = index;
+}
+
 void GridSeries::Depth(float depth) {
   host::Require(depth > 0, "Invalid series depth, must be greater than 0");
   constexpr double kPopupReach = 0.4;
   constexpr double kPopupDepth = 1.05;  // Just outside the shape, so that the strip is hit first.
-  const float radius = host::Single(kPopupReach * depth);
   const float popupDepth = host::Single(kPopupDepth * depth);
-  for (const auto& variant : m_variants) variant.depth->Value(depth);
-  m_popups->radius(radius);
+  m_popups->radius(host::Single(kPopupReach * depth));  // Rejects a depth whose reach comes to 0.
   m_popups->Depth(popupDepth);
+  for (const auto& variant : m_variants) variant.depth->Value(depth);
 }
 
 void GridSeries::Spacing(float spacing) {

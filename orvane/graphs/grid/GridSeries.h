@@ -84,6 +84,10 @@ class ORVANE_API GridSeries : public host::Object,
   /// Shows the first of `variants`.
   explicit GridSeries(std::vector<Variant> variants);
 
+  std::size_t Shown() const { return m_shown; }
+  /// Puts variant `index`, from 0, in place of the one that is shown; it takes over the heights.
+  void Show(std::size_t index);
+
  private:
   std::vector<Variant> m_variants;
   std::size_t m_shown = 0;

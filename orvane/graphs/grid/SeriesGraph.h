@@ -3,7 +3,6 @@
 
 #include "orvane/graphs/grid/GridGraph.h"
 #include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 
 #include <cstdint>
 #include <memory>
@@ -17,11 +16,7 @@ class SeriesGraph : public GridGraph {
  public:
   /// Series `index`, 1..the number of series; a component error otherwise.
   std::shared_ptr<S> GetSeries(std::int16_t index) const {
-    if (index < 1 || index > m_series->Count()) {
-      throw host::AutomationError(
-          host::ErrorNumber::Component,
-          "Invalid series index, series count = " + std::to_string(m_series->Count()));
-    }
+    RequireSeries(index, *m_series);
     return m_series->Get<S>(index);
   }
 

@@ -1,0 +1,179 @@
+/// Late binding: what a scripting host may hand in, and what it is told when it may not.
+
+#include "support/Raises.h"
+
+#include "orvane/host/Describe.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace orvane::host {
+
+enum class Fruit : std::int32_t { APPLE = 0, PEAR = 1 };
+
+template <>
+const EnumInfo& Enumeration<Fruit>() {
+  static const EnumInfo info("Fruit", {{"APPLE", 0}, {"PEAR", 1}});
+  return info;
+}
+
+namespace {
+
+using tests::ErrorOf;
+using tests::Raised;
+
+/// One member of every type that crosses.
+class Basket final : public Object {
+ public:
+  static constexpr const char* kClassName = "Basket";
+  const TypeInfo& Type() const override {
+    static const TypeInfo type =
+        Describe<Basket>("Holds one value of every type.")
+            .Property<bool>("Open", &Basket::Open, &Basket::Open, {})
+            .Property<std::int16_t>("Count", &Basket::Count, &Basket::Count, {})
+            .Property<std::int32_t>("Color", &Basket::Color, &Basket::Color, {})
+            .Property<float>("Weight", &Basket::Weight, &Basket::Weight, {})
+            .Property<std::string>("Label", &Basket::Label, &Basket::Label, {})
+            .Property<Fruit>("Kind", &Basket::Kind, &Basket::Kind, {})
+            .Property<std::string>("Maker", &Basket::Maker, {})
+            .Method("Sum", &Basket::Sum, {"a", {"b", 10}}, {})
+            .Method("Take", &Basket::Take, {"other"}, {})
+            .Indexed<float>("Item", &Basket::Item, &Basket::Item, {});
+    return type;
+  }
+
+  bool Open() const { return m_open; }
+  void Open(bool open) { m_open = open; }
+  std::int16_t Count() const { return m_count; }
+  void Count(std::int16_t count) { m_count = count; }
+  std::int32_t Color() const { return m_color; }
+  void Color(std::int32_t color) { m_color = color; }
+  float Weight() const { return m_weight; }
+  void Weight(float weight) { m_weight = weight; }
+  std::string Label() const { return m_label; }
+  void Label(const std::string& label) { m_label = label; }
+  Fruit Kind() const { return m_kind; }
+  void Kind(Fruit kind) { m_kind = kind; }
+  std::string Maker() const { return "us"; }
+  std::int32_t Sum(std::int32_t a, std::int32_t b) const { return a + b; }
+  void Take(const std::shared_ptr<Basket>& other) { m_count = other->m_count; }
+  float Item(std::int32_t index) const { return m_items.at(static_cast<std::size_t>(index)); }
+  void Item(std::int32_t index, float value) {
+    m_items.at(static_cast<std::size_t>(index)) = value;
+  }
+
+ private:
+  bool m_open = false;
+  std::int16_t m_count = 0;
+  std::int32_t m_color = 0;
+  float m_weight = 0;
+  std::string m_label;
+  Fruit m_kind = Fruit::APPLE;
+  std::array<float, 3> m_items{};
+};
+
+struct Accepted {
+  const char* member;
+  Value in;
+  Value out;
+};
+
+class AcceptedLet : public testing::TestWithParam<Accepted> {};
+
+TEST_P(AcceptedLet, ReadsBackConverted) {
+  const auto basket = std::make_shared<Basket>();
+  basket->Let(GetParam().member, GetParam().in);
+  EXPECT_EQ(basket->Get(GetParam().member), GetParam().out)
+      << GetParam().member << " := " << GetParam().in.Describe();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Coercion, AcceptedLet,
+    testing::Values(Accepted{"open", true, true}, Accepted{"OPEN", 2, true},
+                    Accepted{"Open", "False", false}, Accepted{"Count", 2.5, 2},
+                    Accepted{"Count", 3.5, 4}, Accepted{"Count", -2.5, -2},
+                    Accepted{"Count", 32767, 32767}, Accepted{"Count", -32768, -32768},
+                    Accepted{"Count", true, -1}, Accepted{"Count", "12", 12},
+                    Accepted{"Color", 16777215.0, 16777215}, Accepted{"Weight", 0.5, 0.5F},
+                    Accepted{"Weight", "1e3", 1000.0F}, Accepted{"Label", 2024, "2024"},
+                    Accepted{"Label", 0.25, "0.25"}, Accepted{"Kind", "pear", 1},
+                    Accepted{"Kind", 7, 7}, Accepted{"Kind", "1", 1}));
+
+struct Rejected {
+  const char* name;
+  void (*call)(Object&);
+  ErrorNumber number;
+  const char* message;
+};
+
+class RejectedCall : public testing::TestWithParam<Rejected> {};
+
+TEST_P(RejectedCall, SaysWhatIsWrongAndChangesNothing) {
+  const auto basket = std::make_shared<Basket>();
+  basket->Count(5);
+  EXPECT_EQ(ErrorOf([&] { GetParam().call(*basket); }),
+            (Raised{GetParam().number, GetParam().message}));
+  EXPECT_EQ(basket->Count(), 5);
+  EXPECT_EQ(basket->Weight(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Coercion, RejectedCall,
+    testing::Values(
+        Rejected{"UnknownMember", [](Object& o) { o.Get("Colour"); }, ErrorNumber::UnknownMember,
+                 "Basket has no member \"Colour\""},
+        Rejected{"UnknownNumber", [](Object& o) { o.Get(99); }, ErrorNumber::UnknownMember,
+                 "Basket has no member number 99"},
+        Rejected{"TooLarge", [](Object& o) { o.Let("Count", 32768); }, ErrorNumber::Overflow,
+                 "Overflow: Basket.Count: 32768 is not in the range [-32768..32767]"},
+        Rejected{"NotANumber",
+                 [](Object& o) { o.Let("Count", std::numeric_limits<double>::quiet_NaN()); },
+                 ErrorNumber::Overflow,
+                 "Overflow: Basket.Count: nan is not in the range [-32768..32767]"},
+        Rejected{"FloatTooLarge", [](Object& o) { o.Let("Weight", 1e39); }, ErrorNumber::Overflow,
+                 "Overflow: Basket.Weight: 1e+39 does not fit a 32-bit float"},
+        Rejected{"Infinity",
+                 [](Object& o) { o.Let("Weight", std::numeric_limits<double>::infinity()); },
+                 ErrorNumber::Overflow, "Overflow: Basket.Weight: inf does not fit a 32-bit float"},
+        Rejected{"TextForNumber", [](Object& o) { o.Let("Weight", "heavy"); },
+                 ErrorNumber::TypeMismatch,
+                 "Type mismatch: Basket.Weight expects a number, got String \"heavy\""},
+        Rejected{"UnknownEnumerator", [](Object& o) { o.Let("Kind", "FIG"); },
+                 ErrorNumber::TypeMismatch,
+                 "Type mismatch: Basket.Kind expects one of APPLE PEAR, got String \"FIG\""},
+        Rejected{"ObjectForText", [](Object& o) { o.Let("Label", o.Self()); },
+                 ErrorNumber::TypeMismatch,
+                 "Type mismatch: Basket.Label expects a String, got an object of class Basket"},
+        Rejected{"NumberForObject", [](Object& o) { o.Call("Take", {3}); },
+                 ErrorNumber::TypeMismatch,
+                 "Type mismatch: argument 1 (other) of Basket.Take expects an object of class "
+                 "Basket, got number 3"},
+        Rejected{"ReadOnly", [](Object& o) { o.Let("Maker", "them"); },
+                 ErrorNumber::ReadOnlyProperty, "Basket.Maker is read-only"},
+        Rejected{"LetOfMethod", [](Object& o) { o.Let("Sum", 1); }, ErrorNumber::ReadOnlyProperty,
+                 "Basket.Sum is a method"},
+        Rejected{"TooFewArguments", [](Object& o) { o.Call("Sum"); },
+                 ErrorNumber::WrongArgumentCount, "Basket.Sum takes 1 to 2 argument(s), got 0"},
+        Rejected{"TooManyArguments",
+                 [](Object& o) {
+                   o.Call("Sum", {1, 2, 3});
+                 },
+                 ErrorNumber::WrongArgumentCount, "Basket.Sum takes 1 to 2 argument(s), got 3"},
+        Rejected{"MissingIndex", [](Object& o) { o.Let("Item", 1.0); },
+                 ErrorNumber::WrongArgumentCount, "Basket.Item takes 2 argument(s), got 1"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(LateBinding, FillsOptionalArgumentsAndIndexes) {
+  const auto basket = std::make_shared<Basket>();
+  EXPECT_EQ(basket->Call("Sum", {1}), Value(11));
+  EXPECT_EQ(basket->Call("Sum", {1, 2}), Value(3));
+  basket->Let("Item", {2, 1.5});
+  EXPECT_EQ(basket->Get("Item", {2}), Value(1.5F));
+  const int id = basket->Type().IdOf("count");
+  basket->Let(id, 9);
+  EXPECT_EQ(basket->Get(id), Value(9));
+}
+
+}  // namespace
+}  // namespace orvane::host

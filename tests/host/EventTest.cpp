@@ -1,0 +1,44 @@
+/// Events reach who is connected, in order, before the raising call returns.
+
+#include "orvane/host/Event.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::host {
+namespace {
+
+TEST(Event, ReachesHandlersInOrderUntilTheirSubscriptionEnds) {
+  std::vector<int> heard;
+  Event<int> event;
+  auto first = event.Connect([&](int n) { heard.push_back(n); });
+  {
+    const auto second = event.Connect([&](int n) { heard.push_back(-n); });
+    event(1);
+  }
+  event(2);
+  first = {};
+  event(3);
+  EXPECT_EQ(heard, (std::vector<int>{1, -1, 2}));
+}
+
+TEST(Event, SurvivesAHandlerThatDisconnectsAnother) {
+  int calls = 0;
+  Event<> event;
+  Subscription second;
+  const auto first = event.Connect([&] { second = {}; });
+  second = event.Connect([&] { ++calls; });
+  event();
+  EXPECT_EQ(calls, 0);
+}
+
+TEST(Event, MayEndBeforeItsSubscription) {
+  Subscription subscription;
+  {
+    Event<> event;
+    subscription = event.Connect([] {});
+  }
+  subscription = {};
+}
+
+}  // namespace
+}  // namespace orvane::host

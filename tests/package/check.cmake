@@ -1,0 +1,18 @@
+# Installs the build into a fresh prefix, then configures, builds and runs the consumer against it.
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(NOT status EQUAL 0)
+    message(FATAL_ERROR "${ARGN}\n${output}")
+  endif()
+endfunction()
+
+file(REMOVE_RECURSE ${WORK})
+run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
+run(${CMAKE_COMMAND} -S ${SOURCE}/tests/package -B ${WORK}/build -G Ninja
+    -DCMAKE_PREFIX_PATH=${WORK}/prefix -DCMAKE_CXX_FLAGS=${FLAGS}
+    -DFIRST_CHART=${SOURCE}/examples/hosts/first_chart.cpp)
+run(${CMAKE_COMMAND} --build ${WORK}/build)
+run(${WORK}/build/consumer ${WORK}/chart.wrl)
+if(NOT EXISTS ${WORK}/chart.wrl OR NOT EXISTS ${WORK}/prefix/share/orvane/protos/VR_GRAPH.wrl)
+  message(FATAL_ERROR "the installed package is not complete")
+endif()

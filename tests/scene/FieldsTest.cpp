@@ -1,0 +1,198 @@
+/// Field objects: values, lists counted from 1, and what they refuse.
+
+#include "support/Raises.h"
+
+#include "orvane/scene/GroupingNodes.h"
+#include "orvane/scene/SensorNodes.h"
+#include "orvane/scene/ShapeNodes.h"
+#include "orvane/scene/ViewNodes.h"
+#include "orvane/scene/frmMain.h"
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace orvane::scene {
+namespace {
+
+using host::ErrorNumber;
+using tests::ErrorOf;
+using tests::Raised;
+
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+
+TEST(SFColor, KeepsEveryByteOnTheRoundTrip) {
+  SFColor color;
+  for (std::int32_t byte = 0; byte <= 255; ++byte) {
+    const std::int32_t rgb = byte | (255 - byte) << 8 | (byte / 2) << 16;
+    color.Value(rgb);
+    ASSERT_EQ(color.Value(), rgb);
+  }
+  color.Value(0x0000FF);
+  EXPECT_EQ(color.Red(), 1);
+  EXPECT_EQ(color.Blue(), 0);
+}
+
+/// Turns `v` by a rotation, after Rodrigues.
+Vec3f Turned(const SFRotation& r, Vec3f v) {
+  const double c = std::cos(r.Angle()), s = std::sin(r.Angle());
+  const double dot = r.X() * v.x + r.Y() * v.y + r.Z() * v.z;
+  const auto component = [&](double p, double k, double cross) {
+    return static_cast<float>(p * c + cross * s + k * dot * (1 - c));
+  };
+  return {component(v.x, r.X(), r.Y() * v.z - r.Z() * v.y),
+          component(v.y, r.Y(), r.Z() * v.x - r.X() * v.z),
+          component(v.z, r.Z(), r.X() * v.y - r.Y() * v.x)};
+}
+
+TEST(SFRotation, AnglesTurnAboutFixedXThenYThenZ) {
+  struct Case {
+    std::array<float, 3> angles;
+    Vec3f reading, up;  // Where a text's reading direction (+x) and its upward one (+y) end.
+  };
+  const Case cases[] = {
+      {{-1.5708F, 1.5708F, 0}, {0, 0, -1}, {-1, 0, 0}},
+      {{-1.5708F, 0, 0}, {1, 0, 0}, {0, 0, -1}},
+      {{0, 0.7854F, 0}, {0.70711F, 0, -0.70711F}, {0, 1, 0}},
+      {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}},
+      {{3.14159F, 3.14159F, 0}, {-1, 0, 0}, {0, -1, 0}},
+  };
+  for (const auto& test : cases) {
+    SFRotation rotation;
+    rotation.SetFromAngles(test.angles[0], test.angles[1], test.angles[2]);
+    const Vec3f reading = Turned(rotation, {1, 0, 0});
+    const Vec3f up = Turned(rotation, {0, 1, 0});
+    EXPECT_NEAR(reading.x, test.reading.x, 1e-4);
+    EXPECT_NEAR(reading.y, test.reading.y, 1e-4);
+    EXPECT_NEAR(reading.z, test.reading.z, 1e-4);
+    EXPECT_NEAR(up.x, test.up.x, 1e-4);
+    EXPECT_NEAR(up.y, test.up.y, 1e-4);
+    EXPECT_NEAR(up.z, test.up.z, 1e-4);
+  }
+}
+
+TEST(Lists, InsertRemoveAndCopy) {
+  const auto group = Create<Group>();
+  const auto a = Create<Transform>(), b = Create<Transform>(), c = Create<Transform>();
+  group->children.Append(a);
+  group->children.Append(c);
+  group->children.Insert(2, b);
+  group->children.Insert(4, a);
+  EXPECT_EQ(group->children.Items(), (MFNode::List{a, b, c, a}));
+  group->children.Remove(a);
+  EXPECT_EQ(group->children.Items(), (MFNode::List{b, c, a}));
+
+  MFFloat from, to;
+  from.Append(1);
+  from.Append(2);
+  to.Append(9);
+  from.CopyTo(to);
+  from.Item(1, 5);
+  EXPECT_EQ(to.Items(), (MFFloat::List{1, 2}));
+}
+
+TEST(Lists, IndexMoreThan16Bits) {
+  MFFloat list;
+  for (int i = 1; i <= 70000; ++i) list.Append(static_cast<float>(i));
+  EXPECT_EQ(list.Count(), 70000);
+  EXPECT_EQ(list.Item(70000), 70000);
+}
+
+struct Refusal {
+  const char* name;
+  std::function<void(Text&)> call;
+  ErrorNumber number;
+  const char* message;
+};
+
+class RefusedChange : public testing::TestWithParam<Refusal> {};
+
+TEST_P(RefusedChange, NamesTheFieldAndKeepsIt) {
+  const auto text = Create<Text>();
+  text->string.Append("one");
+  text->length.Append(4);
+  EXPECT_EQ(ErrorOf([&] { GetParam().call(*text); }),
+            (Raised{GetParam().number, GetParam().message}));
+  EXPECT_EQ(text->string.Items(), (MFString::List{"one"}));
+  EXPECT_EQ(text->length.Items(), (MFFloat::List{4}));
+  EXPECT_EQ(text->maxExtent.Value(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Fields, RefusedChange,
+    testing::Values(
+        Refusal{"ReadBelow", [](Text& node) { (void)node.string.Item(0); }, ErrorNumber::ListIndex,
+                "Index 0 is outside the range [1..1] of Text.string"},
+        Refusal{"ReadAbove", [](Text& node) { (void)node.length.Item(2); }, ErrorNumber::ListIndex,
+                "Index 2 is outside the range [1..1] of Text.length"},
+        Refusal{"Replace", [](Text& node) { node.string.Item(2, "two"); }, ErrorNumber::ListIndex,
+                "Index 2 is outside the range [1..1] of Text.string"},
+        Refusal{"RemoveAt", [](Text& node) { node.length.RemoveAt(-1); }, ErrorNumber::ListIndex,
+                "Index -1 is outside the range [1..1] of Text.length"},
+        Refusal{"InsertBeyondEnd", [](Text& node) { node.string.Insert(3, "x"); },
+                ErrorNumber::ListIndex, "Index 3 is outside the range [1..1] of Text.string"},
+        Refusal{"AppendNan", [](Text& node) { node.length.Append(kNan); }, ErrorNumber::NotFinite,
+                "Text.length takes finite numbers only"},
+        Refusal{"ItemInfinite", [](Text& node) { node.length.Item(1, kInfinity); },
+                ErrorNumber::NotFinite, "Text.length takes finite numbers only"},
+        Refusal{"BelowRange", [](Text& node) { node.length.Item(1, -1); }, ErrorNumber::OutOfRange,
+                "Text.length takes numbers in the range [0..inf], got -1"},
+        Refusal{"ValueInfinite", [](Text& node) { node.maxExtent.Value(-kInfinity); },
+                ErrorNumber::NotFinite, "Text.maxExtent takes finite numbers only"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST(Fields, RefuseColoursAndNodesThatAreNone) {
+  const auto material = Create<Material>();
+  const auto group = Create<Group>();
+  EXPECT_EQ(ErrorOf([&] { material->diffuseColor.Value(0x1000000); }),
+            (Raised{ErrorNumber::OutOfRange,
+                    "Material.diffuseColor takes a colour in the range [0..16777215], got "
+                    "16777216"}));
+  EXPECT_EQ(ErrorOf([&] { Create<Background>()->skyColor.Append(0, 1.5F, 0); }),
+            (Raised{ErrorNumber::OutOfRange,
+                    "Background.skyColor takes components in the range [0..1]"}));
+  EXPECT_EQ(ErrorOf([&] { Create<Viewpoint>()->fieldOfView.Value(0); }),
+            (Raised{ErrorNumber::OutOfRange,
+                    "Viewpoint.fieldOfView takes numbers in the range (0..3.14159), got 0"}));
+  EXPECT_EQ(ErrorOf([&] { group->children.Append(nullptr); }),
+            (Raised{ErrorNumber::NoNode, "Group.children takes nodes only"}));
+  EXPECT_EQ(ErrorOf([&] { group->children.Remove(material); }),
+            (Raised{ErrorNumber::NodeNotInList,
+                    "Group.children does not hold this Material, so it cannot be removed"}));
+}
+
+TEST(LateBoundFields, AreReachedThroughTheirNodeAndKeepItAlive) {
+  host::Value labels;
+  {
+    const auto text = Create<Text>();
+    labels = text->Get("STRING");
+  }
+  labels.AsObject()->Call("Append", {"kept"});
+  EXPECT_EQ(labels.AsObject()->Get("Item", {1}), host::Value("kept"));
+  EXPECT_EQ(labels.AsObject()->Get("Count"), host::Value(1));
+
+  const auto view = Create<Viewpoint>();
+  view->Get("position").AsObject()->Let("Z", 25);
+  EXPECT_EQ(view->position.Z(), 25);
+  const auto points = CoreFactory()->CreateField("MFVec3f");
+  points->Call("Append", {1, 2, 3.5});
+  EXPECT_EQ(points->Get("Item", {1}), host::Value(host::Value::Numbers{1, 2, 3.5}));
+}
+
+TEST(Factory, KnowsItsModulesTypesAndNoOthers) {
+  const auto& form = frmMain::Instance();
+  EXPECT_EQ(form.graph.Factory()->CreateNode("qm4_Legend")->TypeName(), std::string("qm4_Legend"));
+  EXPECT_EQ(form.ui.Factory()->CreateNode("Transform")->TypeName(), std::string("Transform"));
+  EXPECT_EQ(ErrorOf([&] { form.core.Factory()->CreateNode("qm4_Legend"); }),
+            (Raised{ErrorNumber::UnknownType, "There is no node type \"qm4_Legend\""}));
+  EXPECT_EQ(ErrorOf([&] { form.core.Factory()->CreateField("MFImage"); }),
+            (Raised{ErrorNumber::UnknownType, "There is no field type \"MFImage\""}));
+  EXPECT_EQ(ErrorOf([&] { form.core.Factory()->CreateTraverser("Printer"); }),
+            (Raised{ErrorNumber::UnknownType, "There is no writer \"Printer\""}));
+}
+
+}  // namespace
+}  // namespace orvane::scene

@@ -1,0 +1,115 @@
+/// The three PROTO files and the classes that mirror them agree: every name, type, access kind,
+/// order and default.
+
+#include "orvane/scene/frmMain.h"
+
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace orvane::scene {
+namespace {
+
+std::string NumberText(double number) {
+  std::ostringstream text;
+  text << static_cast<float>(number);
+  return text.str();
+}
+
+/// A default as the file has it: brackets and commas away, numbers in one form.
+std::string Normalised(std::string text) {
+  text = std::regex_replace(text, std::regex("[\\[\\],]"), " ");
+  std::istringstream words(text);
+  std::string result;
+  for (std::string word; words >> word;) {
+    char* end = nullptr;
+    const double number = std::strtod(word.c_str(), &end);
+    if (*end == '\0') word = NumberText(number);
+    result += (result.empty() ? "" : " ") + word;
+  }
+  return result;
+}
+
+std::string TextOf(const host::Value& value) {
+  if (const auto* truth = value.If<bool>()) return *truth ? "TRUE" : "FALSE";
+  if (const auto* text = value.If<std::string>()) return "\"" + *text + "\"";
+  if (const auto* whole = value.If<std::int32_t>()) return NumberText(*whole);
+  if (const auto* number = value.If<float>()) return NumberText(*number);
+  return "NULL";
+}
+
+/// The value of a field object, in the form of Normalised.
+std::string ValueOf(host::Object& field) {
+  std::string result;
+  const auto add = [&](const std::string& word) { result += (result.empty() ? "" : " ") + word; };
+  if (field.Type().Find("Count") >= 0) {
+    for (std::int32_t i = 1; i <= *field.Get("Count").If<std::int32_t>(); ++i) {
+      add(TextOf(field.Get("Item", {i})));
+    }
+    return result;
+  }
+  for (const char* member : {"Red", "Green", "Blue", "X", "Y", "Z", "Angle"}) {
+    if (field.Type().Find(member) >= 0) add(TextOf(field.Get(member)));
+  }
+  if (!result.empty()) return result;
+  return TextOf(field.Get("Value"));
+}
+
+using Interface = std::vector<std::string>;
+
+/// The interfaces of all PROTOs of a file, a line an entry: "exposedField SFFloat length 4".
+std::map<std::string, Interface> Declared(const std::string& fileName) {
+  std::ifstream file(std::string(ORVANE_PROTO_DIR) + "/" + fileName);
+  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  std::map<std::string, Interface> protos;
+  const std::regex head(R"(\nPROTO (\w+) \[\n([^]*?)\n\] ?\{)");
+  for (std::sregex_iterator at(text.begin(), text.end(), head), end; at != end; ++at) {
+    std::istringstream lines((*at)[2].str());
+    auto& interface = protos[(*at)[1].str()];
+    for (std::string line; std::getline(lines, line);) {
+      std::istringstream words(line.substr(0, line.find('#')));
+      std::string access, type, name, value;
+      words >> access >> type >> name;
+      std::getline(words, value);
+      if (access.empty()) continue;
+      const bool isEvent = access == "eventIn" || access == "eventOut";
+      interface.push_back(access + " " + type + " " + name +
+                          (isEvent ? "" : " = " + Normalised(value)));
+    }
+  }
+  return protos;
+}
+
+class ProtoFile : public testing::TestWithParam<Module> {};
+
+TEST_P(ProtoFile, DeclaresWhatTheLibrarySets) {
+  const auto factory = frmMain::Instance().FactoryOf(GetParam());
+  std::map<std::string, Interface> mirrored;
+  for (const auto& name : factory->NodeTypes()) {
+    const auto node = factory->CreateNode(name);
+    if (std::dynamic_pointer_cast<ProtoInstance>(node) == nullptr) continue;
+    for (const auto& entry : node->Interface()) {
+      const std::string line =
+          std::string(NameOf(entry.access)) + " " + entry.type + " " + entry.name;
+      mirrored[name].push_back(entry.field == nullptr ? line
+                                                      : line + " = " + ValueOf(*entry.field));
+    }
+  }
+  auto declared = Declared(ProtoFileOf(GetParam()));
+  for (const auto& [name, interface] : declared) EXPECT_EQ(interface, mirrored[name]) << name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Scene, ProtoFile, testing::Values(Module::Graph, Module::Nav, Module::Ui),
+                         [](const auto& test) {
+                           return std::string(ProtoFileOf(test.param)).substr(0, 5) == "VR_GR"
+                                      ? "Graph"
+                                  : test.param == Module::Nav ? "Nav"
+                                                              : "Ui";
+                         });
+
+}  // namespace
+}  // namespace orvane::scene

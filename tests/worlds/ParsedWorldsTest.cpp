@@ -1,0 +1,91 @@
+/// Whole worlds, as an independent parser reads them with the PROTO files.
+
+#include "support/ParsedWorld.h"
+
+#include "orvane/orvane.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+using tests::ParsedWorld;
+
+/// Two series of four values with everything switched on.
+std::shared_ptr<AreaGraph> FullChart() {
+  auto chart = std::make_shared<AreaGraph>();
+  chart->TitleProps()->Text("Rain \"by\" month");
+  chart->GridProps()->ZAxisCellCount(2);
+  for (const char* month : {"January", "February", "March", "April"}) {
+    chart->XAxisProps()->Labels().Append(month);
+  }
+  chart->XAxisProps()->Header("Month");
+  chart->YAxisProps()->Max(100);
+  chart->LegendProps()->UseSeriesToggle(true);
+  chart->LegendProps()->IsBillboarded(true);
+  for (std::int16_t i = 1; i <= 2; ++i) {
+    const auto series = chart->GetSeries(i);
+    for (const float height : {1.0F, -2.5F, 0.0F, 4.0F}) series->Height().Append(height * i);
+    series->LegendText("Series " + std::to_string(i));
+    series->PopupProps()->UsePopups(true);
+    series->PopupProps()->PopupText().Append("dry");
+  }
+  chart->InteractivityProps()->UseDrillUp(true);
+  chart->InteractivityProps()->UseXAxisDrillDown(true);
+  chart->InteractivityProps()->UseZAxisDrillDown(true);
+  chart->InteractivityProps()->XAxisDrillDownProps()->DrillDownURL().Append("january.wrl");
+  chart->Viewpoints()->AddViewpoint()->description.Value("Front");
+  chart->Lights()->AddLightSource()->location.Y(20);
+  return chart;
+}
+
+TEST(ParsedArea, HoldsWhatTheHostSet) {
+  const ParsedWorld world(FullChart()->ExportToString(true, true));
+  ASSERT_EQ(world.Complaints(), std::vector<std::string>());
+  SoNode* toggle = world.Named("SERIES_TOGGLE_2");
+  ASSERT_NE(toggle, nullptr);
+  EXPECT_EQ(world.TranslationAbove(toggle), "1 0 5");
+  EXPECT_EQ(ParsedWorld::FieldOf(toggle, "contentsExist"), "TRUE");
+  EXPECT_NE(ParsedWorld::FieldOf(toggle, "contents").find("[ 2, -5, 0, 8 ]"), std::string::npos);
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("X_AXIS_DRILL_DOWN"), "coneLocations"),
+            "[ 0 0 0, 2 0 0, 4 0 0, 6 0 0 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("X_AXIS_ROUTER"), "urls"), "\"january.wrl\"");
+  EXPECT_EQ(world.CountOf("qm4_ChartGrid"), 1);
+  EXPECT_EQ(world.CountOf("qm4_Legend"), 1);
+  EXPECT_EQ(world.CountOf("qm4_CheckBox"), 2);
+  EXPECT_EQ(world.CountOf("VRMLViewpoint"), 1);
+  EXPECT_EQ(world.CountOf("VRMLPointLight"), 1);
+  EXPECT_EQ(world.Routes().size(), 4U);
+}
+
+TEST(ParsedArea, IsTheSameSceneWithAndWithoutLineBreaks) {
+  const auto chart = FullChart();
+  const std::string broken = chart->ExportToString(true, true);
+  const std::string flat = chart->ExportToString(false, false);
+  EXPECT_EQ(std::count(flat.begin(), flat.end(), '\n'), 2) << "the header's and the last";
+  const ParsedWorld world(flat);
+  EXPECT_EQ(world.Complaints(), std::vector<std::string>());
+  const auto tokens = [](std::string text) {
+    std::string squeezed;
+    for (const char c : text) {
+      const bool isSpace = c == '\n' || c == '\t' || c == ' ';
+      if (!isSpace) {
+        squeezed += c;
+      } else if (!squeezed.empty() && squeezed.back() != ' ') {
+        squeezed += ' ';
+      }
+    }
+    return squeezed;
+  };
+  EXPECT_EQ(tokens(flat), tokens(broken));
+}
+
+TEST(ParsedArea, IsCompleteWithoutSeries) {
+  const ParsedWorld world(std::make_shared<AreaGraph>()->ExportToString(true, false));
+  EXPECT_EQ(world.Complaints(), std::vector<std::string>());
+  EXPECT_EQ(world.CountOf("qm4_ChartGrid"), 1);
+  EXPECT_EQ(world.CountOf("qm4_OutlinedAreaSeries"), 0);
+}
+
+}  // namespace
+}  // namespace orvane

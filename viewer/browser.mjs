@@ -1,0 +1,274 @@
+// Opens worlds in the viewer page, in a real headless browser: to point at things, to read the
+// state of the scene, and to take pictures.
+
+import { chromium } from 'playwright-core';
+
+// Software rendering, so that pictures do not depend on the machine's graphics.
+const FLAGS = [
+  '--no-sandbox', '--disable-gpu', '--use-gl=angle', '--use-angle=swiftshader',
+  '--enable-unsafe-swiftshader', '--disable-quic', '--no-first-run',
+  '--disable-background-networking', '--disable-component-update', '--disable-sync',
+];
+
+// A remark of the graphics driver on its own speed says nothing about the world.
+const DRIVER_REMARK = /GL Driver Message \(OpenGL, Performance/;
+
+// A page without a list of worlds is complete; the browser reports the missing file all the same.
+const NO_LIST = /\/worlds\.json$/;
+
+// X_ITE's passing notices ("Front") are no part of the world.
+const WORLD_ONLY = '.x_ite-private-notification { display: none !important; }';
+
+// How long a pointer rests before, between and after the steps of a click, in ms: X_ITE takes
+// pointer events in with its frames.
+const REST = 80;
+
+export function launch() {
+  return chromium.launch({ executablePath: '/usr/bin/chromium', args: FLAGS });
+}
+
+// Opens the viewer page of the server at `url` with a world, which is named by its URL relative to
+// the page, or with the page's own choice. The world may still be loading; `view.ready()` waits.
+export async function openPage(browser, url, world = '', size = { width: 1024, height: 768 }) {
+  const page = await browser.newPage({ viewport: size });
+  const view = new View(page);
+  const address = new URL('index.html', url);
+  if (world) address.searchParams.set('world', world);
+  await page.goto(address.href);
+  return view;
+}
+
+class View {
+  constructor(page) {
+    this.page = page;
+
+    // Every warning and error that the page's console showed.
+    this.complaints = [];
+    page.on('console', (message) => {
+      if (!['warning', 'error', 'assert'].includes(message.type())) return;
+      const { url } = message.location();
+      if (DRIVER_REMARK.test(message.text()) || NO_LIST.test(url)) return;
+      this.complaints.push(`${message.text()} (${url})`);
+    });
+    page.on('pageerror', (error) => this.complaints.push(error.stack ?? String(error)));
+  }
+
+  close() {
+    return this.page.close();
+  }
+
+  // Waits until the page is done with loading, and the world with its fonts is drawn.
+  async ready() {
+    await this.page.locator('.stage[aria-busy="false"]').waitFor({ state: 'attached' });
+    await this.still();
+  }
+
+  // What the page says went wrong, or an empty string.
+  async trouble() {
+    const alert = this.page.getByRole('alert');
+    return (await alert.isVisible()) ? alert.innerText() : '';
+  }
+
+  // Waits until nothing is loading and no camera is on its way, for several frames on end: texts
+  // are drawn some frames after their font has come.
+  async still() {
+    await this.page.evaluate(async () => {
+      const { browser } = document.querySelector('x3d-canvas');
+      for (let quiet = 0; quiet < 8; ++quiet) {
+        await new Promise(requestAnimationFrame);
+        const moving = browser.getActiveNavigationInfo()?._transitionActive.getValue();
+        if (browser.getBrowserLoading() || browser.getLoadingObjects().size || moving) quiet = -1;
+      }
+    });
+  }
+
+  // The descriptions of the world's viewpoints, as the page offers them.
+  viewpoints() {
+    return this.page.locator('#viewpoints button').allTextContents();
+  }
+
+  async viewpoint(description) {
+    const buttons = this.page.locator('#viewpoints');
+    await buttons.getByRole('button', { name: description, exact: true }).dispatchEvent('click');
+    await this.still();
+  }
+
+  screenshot(path) {
+    return this.page.locator('x3d-canvas').screenshot({ path, style: WORLD_ONLY });
+  }
+
+  // The share of a picture, 0 to 1, that is not background: pixels unlike the one at the left edge
+  // of their row, so that a sky in bands of colour counts as empty.
+  drawnShare(picture) {
+    return this.page.evaluate(shareUnlike, [picture.toString('base64')]);
+  }
+
+  // The share of the picture, 0 to 1, in which two pictures differ.
+  changedShare(before, after) {
+    return this.page.evaluate(shareUnlike, [before, after].map((png) => png.toString('base64')));
+  }
+
+  // The value of a node's field; the node is named as for `at`.
+  read(path, field) {
+    return this.#inScene(({ find, plain }, { path, field }) => (
+      plain(find(path).at(-1).getField(field))
+    ), { path, field });
+  }
+
+  // The strings of every Text node that is drawn.
+  texts() {
+    return this.#inScene(({ drawnTexts }) => drawnTexts());
+  }
+
+  // Whether a node is drawn: no Switch on the way to it has chosen otherwise.
+  isDrawn(path) {
+    return this.#inScene(({ find, chosen }, path) => (
+      find(path).every((node, i, chain) => i === 0 || chosen(chain[i - 1]).includes(node))
+    ), path);
+  }
+
+  // Where in the window a point of a node is, in CSS pixels. `path` leads to the node by DEF names
+  // or types, each looked for below the one before it ("SERIES_TOGGLE_1", "qm4_PopupStrip").
+  // `point` is in the node's own frame, inside its translation, rotation and scale; without one,
+  // the middle of the node's bounding box is meant.
+  at(path, point) {
+    return this.#inScene(({ find, place }, { path, point }) => place(find(path), point),
+      { path, point });
+  }
+
+  // Lets the pointer rest at a place in the window, as `at` gives it.
+  async move({ x, y }) {
+    await this.page.mouse.move(x, y, { steps: 3 });
+    await this.page.waitForTimeout(REST);
+    await this.still();
+  }
+
+  async click(place) {
+    await this.move(place);
+    await this.page.mouse.down();
+    await this.page.waitForTimeout(REST);
+    await this.page.mouse.up();
+    await this.page.waitForTimeout(2 * REST);
+    await this.still();
+  }
+
+  // Calls `task` in the page with the tools of `sceneTools` and `argument`.
+  #inScene(task, argument) {
+    return this.page.evaluate(`import('./x_ite/x_ite.min.mjs').then(({ default: X3D }) => {
+      const tools = (${sceneTools})(X3D, document.querySelector('x3d-canvas'));
+      return (${task})(tools, ${JSON.stringify(argument)});
+    })`);
+  }
+}
+
+// Runs in the page, which has a decoder for pictures at hand: the share of the first picture's
+// pixels that are clearly unlike those of the second, or of their own row's first pixel.
+async function shareUnlike(pictures) {
+  const [one, other] = await Promise.all(pictures.map(async (png) => {
+    const bytes = Uint8Array.from(atob(png), (char) => char.charCodeAt(0));
+    const bitmap = await createImageBitmap(new Blob([bytes]));
+    const context = new OffscreenCanvas(bitmap.width, bitmap.height).getContext('2d');
+    context.drawImage(bitmap, 0, 0);
+    return context.getImageData(0, 0, bitmap.width, bitmap.height);
+  }));
+  let unlike = 0;
+  for (let at = 0; at < one.data.length; at += 4) {
+    const peer = other ? at : at - (at % (4 * one.width));
+    const from = (other ?? one).data;
+    if ([0, 1, 2].some((i) => Math.abs(one.data[at + i] - from[peer + i]) > 16)) ++unlike;
+  }
+  return unlike / (one.width * one.height);
+}
+
+// Runs in the page: ways through the scene on X_ITE's side of it. X_ITE keeps matrices as arrays of
+// 16 numbers and, as VRML does, multiplies a row vector from the left.
+function sceneTools(X3D, canvas) {
+  const { browser } = canvas;
+
+  // A PROTO instance shows the first node of its body; any other node shows itself.
+  const isInstance = (node) => 'getBody' in node;
+  const shown = (node) => (isInstance(node) ? node.getBody().getRootNodes()[0].getValue() : node);
+
+  // The nodes right below a node, as far as they can be drawn: not what hangs in a Script.
+  function children(node) {
+    if (isInstance(node)) return [shown(node)];
+    if (node.getTypeName() === 'Script') return [];
+    return [...node.getFields()].flatMap((field) => {
+      if (field.getTypeName() === 'SFNode') return [field.getValue()];
+      if (field.getTypeName() === 'MFNode') return [...field].map((child) => child?.getValue());
+      return [];
+    }).filter(Boolean);
+  }
+
+  const roots = () => [...browser.currentScene.rootNodes].map((node) => node.getValue());
+
+  // The chain of nodes from the root to the first node below `chain` that a name or type fits.
+  function search(name, chain, seen = new Set()) {
+    for (const node of chain.length ? children(chain.at(-1)) : roots()) {
+      if (seen.has(node)) continue;
+      seen.add(node);
+      const longer = [...chain, node];
+      if (node.getName() === name || node.getTypeName() === name) return longer;
+      const found = search(name, longer, seen);
+      if (found) return found;
+    }
+    return null;
+  }
+
+  function find(path) {
+    let chain = [];
+    for (const name of [path].flat()) {
+      chain = search(name, chain);
+      if (!chain) throw new Error(`no ${name} in the scene (on the way ${path})`);
+    }
+    return chain;
+  }
+
+  function times(vector, matrix) {
+    return [0, 1, 2, 3].map((j) => vector.reduce((sum, v, i) => sum + v * matrix[4 * i + j], 0));
+  }
+
+  // Where a point of the chain's last node, or else the middle of its bounding box, is on screen.
+  function place(chain, point) {
+    const last = shown(chain.at(-1));
+    if (point) return project([...chain.slice(0, -1), last], point);
+    // The box is given in the frame of the node above.
+    return project(chain.slice(0, -1), [...last.getBBox(new X3D.Box3()).center]);
+  }
+
+  function project(chain, point) {
+    const layer = browser.getActiveLayer();
+    const viewpoint = browser.getActiveViewpoint();
+    const matrices = [
+      ...chain.map((node) => node.getMatrix?.()).filter(Boolean).reverse(),
+      viewpoint.getViewMatrix(),
+      viewpoint.getProjectionMatrix(layer),
+    ];
+    const [x, y, , w] = matrices.reduce(times, [...point, 1]);
+    const box = canvas.getBoundingClientRect();
+    return {
+      x: box.left + ((1 + x / w) / 2) * box.width,
+      y: box.top + ((1 - y / w) / 2) * box.height,
+    };
+  }
+
+  function plain(field) {
+    const value = field.getValue();
+    if (typeof value !== 'object') return value;
+    return [...field].map((element) => (typeof element === 'object' ? [...element] : element));
+  }
+
+  // Those of a node's children that are drawn.
+  function chosen(node) {
+    if (node.getTypeName() !== 'Switch') return children(node);
+    const choice = children(node)[node.getField('whichChoice').getValue()];
+    return choice ? [choice] : [];
+  }
+
+  function drawnTexts(nodes = roots()) {
+    return nodes.flatMap((node) => (
+      node.getTypeName() === 'Text' ? [...node.getField('string')] : drawnTexts(chosen(node))));
+  }
+
+  return { find, place, plain, chosen, drawnTexts };
+}
