@@ -1,0 +1,112 @@
+#include "orvane/graphs/grid/ColumnGraph.h"
+
+#include "orvane/graphs/grid/DescribeGridGraph.h"
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+
+#include <string>
+
+namespace orvane {
+
+using host::Quotient;
+using host::Single;
+
+const host::TypeInfo& ColumnGraph::Type() const {
+  using Graph = ColumnGraph;
+  static const host::TypeInfo type =
+      host::Describe<Graph>("Columns on the floor of a three-axis grid.")
+          .With(DescribeComponents<Graph>)
+          .Method("GetSeries", &Graph::GetSeries, {"Index", {"cellIndex", 1}},
+                  {"The series of one Z row and slot", "", "1..Z cells, 1..ColumnsPerCell"})
+          .With(DescribeInteractivity<Graph>)
+          .Property<ColumnCellSpacing>("ColumnSpacingStyle", &Graph::ColumnSpacingStyle,
+                                       &Graph::ColumnSpacingStyle,
+                                       {"How the slots share a cell", "", "", "EVENLY_SPACED"})
+          .With(DescribeViews<Graph>)
+          .With(DescribeExport<Graph>)
+          .Property<std::int16_t>("ColumnsPerCell", &Graph::ColumnsPerCell, &Graph::ColumnsPerCell,
+                                  {"Slots side by side in each cell", "", ">= 1", "1"});
+  return type;
+}
+
+ColumnGraph::ColumnGraph() {
+  m_zCellCountChanged = Grid().ZCellCountChanged.Connect(
+      [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
+  ColumnsPerCell(1);
+}
+
+std::shared_ptr<SeriesCollection> ColumnGraph::Slot(std::int16_t index) const {
+  return m_slots->Get<SeriesCollection>(index);
+}
+
+std::shared_ptr<ColumnSeriesInfo> ColumnGraph::GetSeries(std::int16_t index,
+                                                         std::int16_t cellIndex) const {
+  const auto message = "Invalid cell index, there are currently " +
+                       std::to_string(m_slots->Count()) + " column(s) in each cell";
+  host::Require(cellIndex >= 1 && cellIndex <= m_slots->Count(), message.c_str());
+  const auto slot = Slot(cellIndex);
+  RequireSeries(index, *slot);
+  return slot->Get<ColumnSeriesInfo>(index);
+}
+
+void ColumnGraph::ColumnsPerCell(std::int16_t count) {
+  host::Require(count >= 1, "The number of columns per cell must be greater than or equal to 1");
+  while (m_slots->Count() > count) m_slots->RemoveSeries(m_slots->Count());
+  while (m_slots->Count() < count) {
+    const auto slot = std::make_shared<SeriesCollection>();
+    ResizeSlot(*slot, Grid().ZAxisCellCount());
+    m_slots->AddSeries(slot);
+  }
+}
+
+void ColumnGraph::ResizeSlot(SeriesCollection& slot, std::int16_t rows) const {
+  ResizeRows(slot, rows, [] { return std::make_shared<ColumnSeriesInfo>(); });
+}
+
+void ColumnGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
+  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) ResizeSlot(*Slot(i), newCount);
+}
+
+float ColumnGraph::WidthOfSlots() const {
+  float width = 0;
+  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+    const auto slot = Slot(i);
+    if (slot->Count() > 0) width = Single(width + slot->Get<ColumnSeriesInfo>(1)->Width());
+  }
+  return width;
+}
+
+void ColumnGraph::BuildSeries() {
+  LegendWiring legend(Legend(), Routes());
+  SeriesGroup().children.Clear();
+  const double cellWidth = CellWidth();
+  const bool isAdjacent = m_spacingStyle == ColumnCellSpacing::ADJACENT;
+  // Where the next of the adjacent slots begins; together they stand in the middle of the cell.
+  float offset = Single((cellWidth - WidthOfSlots()) / 2);
+  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+    const auto slot = Slot(i);
+    float width = 0;
+    for (std::int16_t j = 1; j <= slot->Count(); ++j) {
+      auto& series = *slot->Get<ColumnSeriesInfo>(j);
+      width = series.Width();
+      const double x =
+          isAdjacent ? offset + width / 2.0 : i * Quotient(cellWidth, m_slots->Count() + 1);
+      const auto suffix = std::to_string(i) + "_" + std::to_string(j);
+      const auto checkBox = LayOutSeries(series, Single(x), j, suffix, legend);
+      if (checkBox != nullptr) checkBox->SetDefName("CHECK_BOX_" + suffix);
+    }
+    offset = Single(static_cast<double>(offset) + width);
+  }
+}
+
+}  // namespace orvane
+
+namespace orvane::host {
+
+template <>
+const EnumInfo& Enumeration<ColumnCellSpacing>() {
+  static const EnumInfo info("ColumnCellSpacing", {{"EVENLY_SPACED", 0}, {"ADJACENT", 1}});
+  return info;
+}
+
+}  // namespace orvane::host
