@@ -54,6 +54,8 @@ class ORVANE_API Field : public host::Object {
   virtual bool IsDefault() const = 0;
   /// Writes the value as VRML97 text.
   virtual void Write(SceneWriter& out) const = 0;
+  /// About how many characters the value takes as text: 0 unless it may be long.
+  virtual std::size_t ExpectedSize() const { return 0; }
   /// Calls `visit` for every node that the field holds, in order.
   virtual void VisitNodes(const std::function<void(const Node&)>& visit) const;
 

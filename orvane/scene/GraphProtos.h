@@ -42,7 +42,9 @@ class ORVANE_API Legend final : public GraphProto<Legend> {
  public:
   static constexpr const char* kClassName = "qm4_Legend";
 
-  MFNode keyAppearances{*this, "keyAppearances"};
+  MFNode keyAppearances{*this, "keyAppearances", AccessKind::Field};
+  EventIn<MFNode> set_keyAppearances{*this, "set_keyAppearances"};
+  EventOut<MFNode> keyAppearances_changed{*this, "keyAppearances_changed"};
   MFString entryTexts{*this, "entryTexts"};
   SFString keyStyle{*this, "keyStyle", "BOX"};
   SFFloat textHeight{*this, "textHeight", 1};

@@ -155,6 +155,12 @@ void ListField<F, T>::Write(SceneWriter& out) const {
   out.Put(m_items.empty() ? "]" : " ]");
 }
 
+template <class F, class T>
+std::size_t ListField<F, T>::ExpectedSize() const {
+  constexpr std::size_t kCharactersPerFloat = 12;
+  return m_items.size() * (sizeof(T) / sizeof(float)) * kCharactersPerFloat;
+}
+
 template <>
 void ListField<MFNode, std::shared_ptr<Node>>::Write(SceneWriter& out) const {
   out.Put("[");

@@ -39,6 +39,7 @@ class ORVANE_API ListField : public Field {
 
   bool IsDefault() const override { return m_items == m_default; }
   void Write(SceneWriter& out) const override;
+  std::size_t ExpectedSize() const override;
 
  protected:
   ListField() = default;

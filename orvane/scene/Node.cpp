@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace orvane::scene {
 namespace {
@@ -72,10 +73,14 @@ host::TypeInfo Node::DescribeInterface() const {
   for (std::size_t i = 0; i < m_interface.size(); ++i) {
     const InterfaceEntry& entry = m_interface[i];
     if (entry.field == nullptr) continue;
-    const auto get = [i](Object& object, Arguments) -> host::Value {
+    host::Member member;
+    member.name = entry.name;
+    member.type.name = entry.type;
+    member.get = [i](Object& object, Arguments) -> host::Value {
       return static_cast<Node&>(object).m_interface[i].field->Self();
     };
-    type.Add({entry.name, false, {entry.type}, {}, get, {}, {NameOf(entry.access)}});
+    member.help.text = NameOf(entry.access);
+    type.Add(std::move(member));
   }
   return type;
 }

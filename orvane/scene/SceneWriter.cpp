@@ -11,11 +11,15 @@ namespace orvane::scene {
 
 using host::ErrorNumber;
 
+SceneWriter::SceneWriter(TextLayout layout)
+    : m_layout(layout), m_block(std::make_unique<char[]>(kBlockSize)), m_at(m_block.get()) {}
+
 std::string SceneWriter::Write(const Node& root, const RouteList& routes, TextLayout layout) {
   SceneWriter writer(layout);
   writer.Visit(root);
   writer.NameSharedNodes();
   writer.CheckRoutes(routes);
+  writer.m_text.reserve(writer.m_expectedSize);
 
   // The header is a comment: it ends with its line, whatever the layout.
   writer.Put("#VRML V2.0 utf8\n");
@@ -23,7 +27,7 @@ std::string SceneWriter::Write(const Node& root, const RouteList& routes, TextLa
   writer.PutNode(root);
   writer.PutRoutes(routes);
   writer.Put("\n");
-  writer.m_text.resize(writer.m_size);
+  writer.Flush();
   return std::move(writer.m_text);
 }
 
@@ -58,9 +62,9 @@ void SceneWriter::Visit(const Node& node) {
   }
   use.open = true;
   for (const auto& member : node.Interface()) {
-    if (member.field != nullptr) {
-      member.field->VisitNodes([this](const Node& child) { Visit(child); });
-    }
+    if (member.field == nullptr) continue;
+    m_expectedSize += member.field->ExpectedSize();
+    member.field->VisitNodes([this](const Node& child) { Visit(child); });
   }
   m_uses.at(&node).open = false;
 }
@@ -181,9 +185,9 @@ void SceneWriter::NewLine() {
   }
 }
 
-void SceneWriter::Grow(std::size_t more) {
-  constexpr std::size_t kFirst = 4096;
-  m_text.resize(std::max({kFirst, 2 * m_text.size(), m_size + more}));
+void SceneWriter::Flush() {
+  m_text.append(m_block.get(), m_at);
+  m_at = m_block.get();
 }
 
 }  // namespace orvane::scene

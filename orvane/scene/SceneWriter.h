@@ -6,6 +6,7 @@
 #include <charconv>
 #include <cstdint>
 #include <initializer_list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -36,17 +37,20 @@ class ORVANE_API SceneWriter {
 
   // What fields write their values with.
   void Put(std::string_view text) {
-    Reserve(text.size());
-    text.copy(m_text.data() + m_size, text.size());
-    m_size += text.size();
+    while (text.size() > Room()) {
+      const std::size_t part = text.copy(m_at, Room());
+      m_at += part;
+      text.remove_prefix(part);
+      Flush();
+    }
+    m_at += text.copy(m_at, text.size());
   }
   /// The shortest text that reads back to the same number.
   template <class T>
   void PutNumber(T number) {
     constexpr std::size_t kLongest = 32;
-    Reserve(kLongest);
-    char* begin = m_text.data() + m_size;
-    m_size += static_cast<std::size_t>(std::to_chars(begin, begin + kLongest, number).ptr - begin);
+    if (kLongest > Room()) Flush();
+    m_at = std::to_chars(m_at, m_at + kLongest, number).ptr;
   }
   /// The components of one value, with a space between them.
   void PutNumbers(std::initializer_list<float> numbers) {
@@ -78,7 +82,7 @@ class ORVANE_API SceneWriter {
     std::vector<std::string> locations;
   };
 
-  explicit SceneWriter(TextLayout layout) : m_layout(layout) {}
+  explicit SceneWriter(TextLayout layout);
 
   void Visit(const Node& node);
   void NameSharedNodes();
@@ -86,15 +90,20 @@ class ORVANE_API SceneWriter {
   void PutExternProto(const ProtoUse& proto);
   void PutRoutes(const RouteList& routes);
 
-  void Reserve(std::size_t more) {
-    if (m_text.size() - m_size < more) Grow(more);
-  }
-  void Grow(std::size_t more);
+  std::size_t Room() const { return static_cast<std::size_t>(m_block.get() + kBlockSize - m_at); }
+  /// Moves what stands in the block to the end of the text.
+  void Flush();
 
   TextLayout m_layout;
   int m_depth = 0;
-  std::string m_text;  ///< Sized ahead of what is written; m_size is what counts.
-  std::size_t m_size = 0;
+  // Text is made in a block that stays in the processor's cache, and appended to a text that has
+  // room for what the scene is expected to take: growing a text of tens of megabytes would cost as
+  // much as formatting the numbers in it.
+  static constexpr std::size_t kBlockSize = 1 << 15;
+  std::string m_text;
+  std::size_t m_expectedSize = 0;
+  std::unique_ptr<char[]> m_block;
+  char* m_at;
   std::unordered_map<const Node*, NodeUse> m_uses;
   std::unordered_map<std::string, const Node*> m_names;
   std::vector<const Node*> m_unnamedShared;  ///< In the order in which they were met twice.

@@ -43,7 +43,9 @@ class ORVANE_API Slider final : public NodeOf<Slider, PlacedProto> {
   SFFloat radius{*this, "radius", 0.2F};
   SFInt32 minValue{*this, "minValue", 0};
   SFInt32 maxValue{*this, "maxValue", 10};
-  SFInt32 value{*this, "value", 0};
+  SFInt32 value{*this, "value", 0, AccessKind::Field};
+  EventIn<SFInt32> set_value{*this, "set_value"};
+  EventOut<SFInt32> value_changed{*this, "value_changed"};
 };
 
 }  // namespace orvane::scene

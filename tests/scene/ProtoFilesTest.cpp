@@ -101,6 +101,9 @@ TEST_P(ProtoFile, DeclaresWhatTheLibrarySets) {
   }
   auto declared = Declared(ProtoFileOf(GetParam()));
   for (const auto& [name, interface] : declared) EXPECT_EQ(interface, mirrored[name]) << name;
+  for (const auto& [name, interface] : mirrored) {
+    EXPECT_TRUE(declared.contains(name)) << name << " is in no file";
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Scene, ProtoFile, testing::Values(Module::Graph, Module::Nav, Module::Ui),
