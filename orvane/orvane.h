@@ -4,5 +4,7 @@
 #include "orvane/control/ObjectModel.h"
 #include "orvane/control/OrvaneScaler.h"
 #include "orvane/graphs/grid/AreaGraph.h"
+#include "orvane/graphs/grid/ColumnGraph.h"
+#include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/host/AutomationError.h"
 #include "orvane/scene/OrvaneModule.h"

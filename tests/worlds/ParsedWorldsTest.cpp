@@ -80,6 +80,47 @@ TEST(ParsedArea, IsTheSameSceneWithAndWithoutLineBreaks) {
   EXPECT_EQ(tokens(flat), tokens(broken));
 }
 
+/// The text with every instance of the PROTO `type` cut out, name and fields.
+std::string Without(std::string text, const std::string& type) {
+  for (auto at = text.find(type); at != std::string::npos; at = text.find(type, at)) {
+    auto end = text.find_first_of("[{", at);
+    int depth = 0;
+    do {
+      depth += text[end] == '{' || text[end] == '[';
+      depth -= text[end] == '}' || text[end] == ']';
+    } while (++end < text.size() && depth > 0);
+    text.erase(at, end - at);
+  }
+  return text;
+}
+
+TEST(ParsedRibbons, DifferFromAreasInTheSeriesAlone) {
+  std::string worlds[2];
+  const char* const charts[] = {"AreaGraph", "RibbonGraph"};
+  const char* const shapes[] = {"qm4_OutlinedAreaSeries", "qm4_OutlinedRibbonSeries"};
+  for (int i = 0; i < 2; ++i) {
+    const auto chart = CreateChart(charts[i]);
+    const auto get = [&](const char* member) { return chart->Get(member).AsObject(); };
+    get("GridProps")->Let("ZAxisCellCount", 2);
+    get("LegendProps")->Let("UseSeriesToggle", true);
+    for (int k = 1; k <= 2; ++k) {
+      const auto series = chart->Call("GetSeries", {k}).AsObject();
+      for (const double height : {1.0, 3.0, 2.0}) {
+        series->Get("Height").AsObject()->Call("Append", {height * k});
+      }
+      series->Get("PopupProps").AsObject()->Let("UsePopups", true);
+    }
+    const auto text = *chart->Call("ExportToString", {true, true}).If<std::string>();
+    EXPECT_EQ(ParsedWorld(text).CountOf(shapes[i]), 2);
+    // Locations of EXTERNPROTOs name the PROTO again behind the "#".
+    worlds[i] = Without(Without(text, std::string("EXTERNPROTO ") + shapes[i]), shapes[i]);
+    const std::string location = " [ \"VR_GRAPH.wrl#" + std::string(shapes[i]) + "\" ]";
+    const auto at = worlds[i].find(location);
+    if (at != std::string::npos) worlds[i].erase(at, location.size());
+  }
+  EXPECT_EQ(worlds[0], worlds[1]);
+}
+
 TEST(ParsedArea, IsCompleteWithoutSeries) {
   const ParsedWorld world(std::make_shared<AreaGraph>()->ExportToString(true, false));
   EXPECT_EQ(world.Complaints(), std::vector<std::string>());
