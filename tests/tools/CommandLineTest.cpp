@@ -1,0 +1,209 @@
+/// The program as a whole: files, exit statuses, messages.
+#include "CommandLine.h"
+#include "ProtoFiles.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace orvane::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string TextOf(const fs::path& file) {
+  std::ostringstream text;
+  text << std::ifstream(file, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+struct Outcome {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+Outcome Orvane(std::vector<std::string> arguments) {
+  arguments.insert(arguments.begin(), "orvane");
+  std::vector<const char*> argv;
+  for (const auto& argument : arguments) argv.push_back(argument.c_str());
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = RunCommandLine(static_cast<int>(argv.size()), argv.data(), out, err);
+  return {status, out.str(), err.str()};
+}
+
+/// A scratch folder for each test, which is the current one meanwhile.
+class CommandLine : public testing::Test {
+ protected:
+  void SetUp() override {
+    const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+    m_folder = fs::path(testing::TempDir()) / ("orvane-" + name);
+    fs::remove_all(m_folder);
+    fs::create_directories(m_folder);
+    fs::current_path(m_folder);
+    Write("t.csv", "m,a,b\nx,1,2\ny,3,4\n");
+  }
+  void TearDown() override {
+    fs::current_path(m_folder.parent_path());
+    fs::remove_all(m_folder);
+  }
+
+  static void Write(const std::string& file, const std::string& text) {
+    std::ofstream(file, std::ios::binary) << text;
+  }
+  /// Names of the files in the current folder, sorted.
+  static std::vector<std::string> Files() {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(".")) names.push_back(entry.path().filename());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+ private:
+  fs::path m_folder;
+};
+
+TEST_F(CommandLine, WritesAWorldAndItsProtoFiles) {
+  const Outcome outcome = Orvane({"chart", "area", "t.csv", "-o", "t.wrl", "--title", "A, B"});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  EXPECT_EQ(outcome.out + outcome.err, "");
+  EXPECT_EQ(Files(), (std::vector<std::string>{"VR_GRAPH.wrl", "VR_NAV.wrl", "VR_UI.wrl", "t.csv",
+                                               "t.wrl"}));
+  const std::string world = TextOf("t.wrl");
+  EXPECT_TRUE(world.starts_with("#VRML V2.0 utf8\n"));
+  EXPECT_NE(world.find("[ \"VR_GRAPH.wrl#qm4_ChartGrid\" ]"), std::string::npos);
+  EXPECT_NE(world.find("\"A, B\""), std::string::npos);
+}
+
+TEST_F(CommandLine, PutsThePrefixAndNoProtoFiles) {
+  EXPECT_EQ(Orvane({"chart", "area", "t.csv", "-o", "t.wrl", "--proto-prefix", "../p/"}).status, 0);
+  EXPECT_EQ(Files(), (std::vector<std::string>{"t.csv", "t.wrl"}));
+  EXPECT_NE(TextOf("t.wrl").find("[ \"../p/VR_UI.wrl#qm4_CheckBox\" ]"), std::string::npos);
+}
+
+TEST_F(CommandLine, WritesToStandardOutputAlone) {
+  const Outcome outcome = Orvane({"chart", "area", "t.csv", "-o", "-"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_TRUE(outcome.out.starts_with("#VRML V2.0 utf8\n"));
+  EXPECT_EQ(Files(), std::vector<std::string>{"t.csv"});
+}
+
+TEST_F(CommandLine, AppliesItsOptions) {
+  Write("gaps.csv", "m,a\nx,\ny,3\n");
+  const Outcome outcome =
+      Orvane({"chart", "area", "gaps.csv", "-o", "-", "--missing", "zero", "--size", "10,5,2.5",
+              "--background", "#ff0000", "--no-toggles", "--no-popups"});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  for (const char* part : {"skyColor [ 1 0 0 ]", "xSpacing 5", "zSpacing 2.5"}) {
+    EXPECT_NE(outcome.out.find(part), std::string::npos) << part;
+  }
+  for (const char* part : {"qm4_CheckBox", "qm4_PopupStrip"}) {
+    EXPECT_EQ(outcome.out.find(part), std::string::npos) << part;
+  }
+}
+
+TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
+  Write("m.json", R"({"chart": "AreaGraph", "TitleProps": {"Text": "Model"}})");
+  EXPECT_EQ(Orvane({"build", "m.json", "-o", "m.wrl"}).status, 0);
+  EXPECT_NE(TextOf("m.wrl").find("\"Model\""), std::string::npos);
+
+  EXPECT_EQ(Orvane({"protos", "a/b"}).status, 0);
+  for (const ProtoFile& proto : ProtoFiles()) {
+    EXPECT_EQ(TextOf("a/b/" + proto.name), TextOf(ORVANE_SOURCE_DIR "/protos/" + proto.name));
+    EXPECT_EQ(TextOf(proto.name), proto.text);
+  }
+}
+
+TEST_F(CommandLine, PrintsTheObjectModelAsDocumented) {
+  const Outcome all = Orvane({"types"});
+  EXPECT_EQ(all.status, 0);
+  EXPECT_TRUE(all.out == TextOf(ORVANE_SOURCE_DIR "/docs/object-model.md"))
+      << "docs/object-model.md is not what `orvane types` prints";
+
+  const Outcome one = Orvane({"types", "gridinfo"});
+  EXPECT_TRUE(one.out.starts_with("## GridInfo\n"));
+  EXPECT_NE(one.out.find("| `Width` | Single | get, let |"), std::string::npos);
+}
+
+struct Rejected {
+  std::vector<std::string> arguments;
+  int status;
+  std::string message;
+};
+
+TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
+  Write("empty.csv", "");
+  Write("bad.csv", "m,a\nx,abc\n");
+  Write("bad.json", "{\"chart\": \"AreaGraph\", \"GridProps\": {\"Width\": 0}}");
+  fs::create_directory("folder");
+  const std::string before = "what was there before";
+  for (const char* file : {"o.wrl", "VR_GRAPH.wrl"}) Write(file, before);
+  const auto files = Files();
+
+  const auto area = [](std::vector<std::string> more) {
+    more.insert(more.begin(), {"chart", "area"});
+    return more;
+  };
+  const Rejected cases[] = {
+      {area({"none.csv", "-o", "o.wrl"}), 1,
+       "none.csv: cannot be read: No such file or directory\n"},
+      {area({"folder", "-o", "o.wrl"}), 1, "folder: cannot be read: Is a directory\n"},
+      {area({"empty.csv", "-o", "o.wrl"}), 1, "empty.csv:1:1: the file is empty\n"},
+      {area({"bad.csv", "-o", "o.wrl"}), 1, "bad.csv:2:3: \"abc\" is not a number\n"},
+      {area({"bad.csv", "-o", "-"}), 1, "bad.csv:2:3: \"abc\" is not a number\n"},
+      {area({"t.csv", "-o", "folder"}), 1, "folder: cannot be written: Is a directory\n"},
+      {area({"t.csv", "-o", "no/o.wrl"}), 1,
+       "no/VR_GRAPH.wrl: cannot be written: No such file or directory\n"},
+      {{"build", "bad.json", "-o", "o.wrl"},
+       1,
+       "bad.json:1:47: GridProps.Width: The graph must be wider than 0\n"},
+      {{"protos", "o.wrl"}, 1, "o.wrl: cannot be made: Not a directory\n"},
+      {{}, 2, "A subcommand is required\n"},
+      {{"chart", "cake"}, 2, "A subcommand is required\n"},
+      {area({"t.csv"}), 2, "--output is required\n"},
+      {area({"-o", "o.wrl"}), 2, "table is required\n"},
+      {area({"t.csv", "-o", "o.wrl", "--proto-prefix", "p"}), 2,
+       "--proto-prefix: must end in / or \\\n"},
+      {area({"t.csv", "-o", "o.wrl", "--size", "1,2"}), 2,
+       "--size: At least 3 required but received 2\n"},
+      {area({"t.csv", "-o", "o.wrl", "--size", "1,0,3"}), 2,
+       "--size: 0 is not a number from 0.1 to 10000\n"},
+      {area({"t.csv", "-o", "o.wrl", "--size", "nan,1,3"}), 2,
+       "--size: nan is not a number from 0.1 to 10000\n"},
+      {area({"t.csv", "-o", "o.wrl", "--background", "red"}), 2,
+       "--background: red is not a colour (#rrggbb)\n"},
+      {area({"t.csv", "-o", "o.wrl", "--missing", "one"}), 2, "--missing: one is not zero\n"},
+      {{"types", "Nothing"}, 2, "there is no class \"Nothing\"\n"},
+  };
+  for (const Rejected& rejected : cases) {
+    const Outcome outcome = Orvane(rejected.arguments);
+    const std::string what = testing::PrintToString(rejected.arguments);
+    EXPECT_EQ(outcome.status, rejected.status) << what;
+    EXPECT_TRUE(outcome.err.starts_with(rejected.message)) << what << "\n" << outcome.err;
+    EXPECT_EQ(outcome.out, "") << what;
+    EXPECT_EQ(Files(), files) << what;
+    EXPECT_EQ(TextOf("o.wrl"), before) << what;
+    EXPECT_EQ(TextOf("VR_GRAPH.wrl"), before) << what;
+  }
+}
+
+TEST_F(CommandLine, ReplacesFilesThroughLinks) {
+  Write("real.wrl", "old");
+  fs::create_symlink("real.wrl", "link.wrl");
+  EXPECT_EQ(Orvane({"chart", "area", "t.csv", "-o", "link.wrl"}).status, 0);
+  EXPECT_TRUE(fs::is_symlink("link.wrl"));
+  EXPECT_TRUE(TextOf("real.wrl").starts_with("#VRML"));
+}
+
+TEST_F(CommandLine, HelpsOnRequest) {
+  const Outcome outcome = Orvane({"chart", "area", "--help"});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_NE(outcome.out.find("--proto-prefix"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace orvane::tool

@@ -1,0 +1,168 @@
+/// Models: the notation reaches every kind of member, and every complaint names its place.
+#include "ModelBuilder.h"
+
+#include "orvane/graphs/grid/AreaGraph.h"
+
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+namespace orvane::tool {
+namespace {
+
+/// The chart that "{"chart": "AreaGraph", `members`}" makes.
+std::shared_ptr<AreaGraph> Build(const std::string& members) {
+  const std::string model = "{\"chart\": \"AreaGraph\",\n" + members + "}";
+  return std::dynamic_pointer_cast<AreaGraph>(BuildModel(Source("m.json", model)));
+}
+
+TEST(Model, SetsPropertiesOfAllKinds) {
+  const auto chart = Build(R"(
+    "gridprops": {"WIDTH": 12.5, "ZAxisCellCount": 2, "LineColor": "#0000ff", "WallColor": 255},
+    "TitleProps": {"Text": "Häuser", "TextFont": "vrml_sans", "TextStyle": 1, "IsBillboarded": true},
+    "XAxisProps": {"Labels": ["a", "b", 3]},
+    "series": [{"Height": [1, 2.5]}, {"Material": {"diffuseColor": "#00ff00", "shininess": 0.5}}],
+    "InteractivityProps": {"XAxisDrillDownProps": {"DrillDownURL": ["x.wrl"]}})");
+  EXPECT_EQ(chart->GridProps()->Width(), 12.5F);
+  EXPECT_EQ(chart->GridProps()->LineColor(), 0xFF0000);
+  EXPECT_EQ(chart->GridProps()->WallColor(), 0x0000FF);
+  EXPECT_EQ(chart->TitleProps()->Text(), "Häuser");
+  EXPECT_EQ(chart->TitleProps()->TextFont(), VRMLFontFamily::VRML_SANS);
+  EXPECT_EQ(chart->TitleProps()->TextStyle(), VRMLFontStyle::VRML_BOLD);
+  EXPECT_TRUE(chart->TitleProps()->IsBillboarded());
+  EXPECT_EQ(chart->XAxisProps()->Labels().Items(), (std::vector<std::string>{"a", "b", "3"}));
+  EXPECT_EQ(chart->GetSeries(1)->Height().Items(), (std::vector<float>{1, 2.5F}));
+  EXPECT_EQ(chart->GetSeries(2)->Material()->diffuseColor.Value(), 0x00FF00);
+  EXPECT_EQ(chart->GetSeries(2)->Material()->shininess.Value(), 0.5F);
+  EXPECT_EQ(chart->InteractivityProps()->XAxisDrillDownProps()->DrillDownURL().Item(1), "x.wrl");
+}
+
+TEST(Model, CallsMethodsAndReachesWhatTheyReturn) {
+  const auto chart = Build(R"(
+    "GridProps": {"ZAxisCellCount": 2},
+    "GetSeries": [[1, {"Depth": 0.25}], [2, {"LegendText": "two"}]],
+    "Viewpoints": {"AddViewpoint": [[{"position": [1, 2, 3], "description": "A"}], []],
+                   "GetViewpoint": [2, {"orientation": [0, 1, 0, 0.5], "description": "B"}]},
+    "Lights": {"AddLightSource": [{"location": {"Y": 4}}]},
+    "XAxisProps": {"Labels": {"Append": [["a"], ["b"]], "Item": [[1, "c"], [2, "d"]]}})");
+  EXPECT_EQ(chart->GetSeries(1)->Depth(), 0.25F);
+  EXPECT_EQ(chart->GetSeries(2)->LegendText(), "two");
+  ASSERT_EQ(chart->Viewpoints()->Count(), 2);
+  EXPECT_EQ(chart->Viewpoints()->GetViewpoint(1)->position.Z(), 3);
+  EXPECT_EQ(chart->Viewpoints()->GetViewpoint(2)->orientation.Angle(), 0.5F);
+  EXPECT_EQ(chart->Viewpoints()->GetViewpoint(2)->description.Value(), "B");
+  EXPECT_EQ(chart->Lights()->GetLightSource(1)->location.Y(), 4);
+  EXPECT_EQ(chart->XAxisProps()->Labels().Items(), (std::vector<std::string>{"c", "d"}));
+}
+
+struct BadModel {
+  const char* model;
+  const char* message;
+};
+
+/// Members of an AreaGraph; they begin on line 2.
+constexpr BadModel kBadMembers[] = {
+    {R"("GridProps": {"Width": 0})",
+     "m.json:2:24: GridProps.Width: The graph must be wider than 0"},
+    {R"("GridProps": {"Widht": 1})",
+     "m.json:2:15: GridProps.Widht: GridInfo has no member \"Widht\""},
+    {R"("GridProps": {"Width": "wide"})",
+     "m.json:2:24: GridProps.Width: Type mismatch: GridInfo.Width expects a number, got String "
+     "\"wide\""},
+    {R"("GridProps": {"XAxisCellCount": 40000})",
+     "m.json:2:33: GridProps.XAxisCellCount: Overflow: GridInfo.XAxisCellCount: 40000 is not in "
+     "the range [-32768..32767]"},
+    {R"("GridProps": {"Width": [1]})",
+     "m.json:2:24: GridProps.Width: this is no object, so it has no members"},
+    {R"("GridProps": {"Width": null})",
+     "m.json:2:24: GridProps.Width: expected a single value (Single)"},
+    {R"("GridProps": 8)",
+     "m.json:2:14: GridProps: expected a JSON object with members of GridInfo"},
+    {R"("GridProps": [8])", "m.json:2:14: GridProps: GridInfo is not a list"},
+    {R"("XAxisProps": {"LabelFont": 3})",
+     "m.json:2:29: XAxisProps.LabelFont: 3 is not a value of VRMLFontFamily"},
+    {R"("XAxisProps": {"LabelFont": "BOLD"})",
+     "m.json:2:29: XAxisProps.LabelFont: Type mismatch: DiscreteAxis.LabelFont expects one of "
+     "VRML_SERIF VRML_SANS VRML_TYPEWRITER, got String \"BOLD\""},
+    {R"("XAxisProps": {"Labels": ["a", ["b", "c"]]})",
+     "m.json:2:32: XAxisProps.Labels[2]: MFString.Append takes 1 argument(s), got 2"},
+    {R"("TitleProps": {"TextColor": "#12345"})",
+     "m.json:2:29: TitleProps.TextColor: \"#12345\" is not a colour (#rrggbb)"},
+    {R"("Viewpoints": {"Count": 2})",
+     "m.json:2:25: Viewpoints.Count: ViewpointCollection.Count is read-only"},
+    {R"("Viewpoints": {"AddViewpoint": {}})",
+     "m.json:2:32: Viewpoints.AddViewpoint: expected an array of arguments"},
+    {R"("Viewpoints": {"AddViewpoint": [{"position": [1, 2]}]})",
+     "m.json:2:46: Viewpoints.AddViewpoint().position: SFVec3f takes 3 numbers, got 2"},
+    {R"("Viewpoints": {"GetViewpoint": [1, {}]})",
+     "m.json:2:32: Viewpoints.GetViewpoint: Index 1 is outside the range [1..0] of Group.children"},
+    {R"("GridProps": {"ZAxisCellCount": 2}, "GetSeries": [2, {"Depth": -1}])",
+     "m.json:2:64: GetSeries(2).Depth: Invalid series depth, must be greater than 0"},
+    {R"("series": [{}])", "m.json:2:12: GetSeries(1): Invalid series index, series count = 0"},
+    {R"("series": {})", "m.json:2:11: series: expected an array with an object for each series"},
+    {R"("GridProps": {"Width": 1, "Width": 2})",
+     "m.json:2:27: the key \"Width\" stands twice in one object"},
+    {R"("GridProps": {"Width": 1,})",
+     "m.json:2:26: syntax error while parsing object key - unexpected '}'; expected string "
+     "literal"},
+    {R"("GridProps": {"Width": 1e999})", "m.json:2:28: number overflow parsing '1e999'"},
+};
+
+TEST(Model, NamesThePlaceOfWhatIsWrong) {
+  for (const auto& [model, message] : kBadMembers) {
+    try {
+      Build(model);
+      ADD_FAILURE() << model << " was built";
+    } catch (const FileError& error) {
+      EXPECT_STREQ(error.what(), message);
+    }
+  }
+}
+
+TEST(Model, IsAJsonObjectThatNamesItsChart) {
+  const BadModel models[] = {
+      {"",
+       "m.json:1:1: syntax error while parsing value - unexpected end of input; expected '[', "
+       "'{', or a literal"},
+      {"{",
+       "m.json:1:2: syntax error while parsing object key - unexpected end of input; expected "
+       "string literal"},
+      {"[]", "m.json:1:1: a model is a JSON object"},
+      {"{}", "m.json:1:1: the model does not name the class of its \"chart\""},
+      {"{\"chart\": 1}", "m.json:1:11: chart: the class of a chart is a text"},
+      {"{\n \"chart\": \"Chart\"}", "m.json:2:11: chart: there is no chart class \"Chart\""},
+  };
+  for (const auto& [model, message] : models) {
+    try {
+      BuildModel(Source("m.json", model));
+      ADD_FAILURE() << model << " was built";
+    } catch (const FileError& error) {
+      EXPECT_STREQ(error.what(), message);
+    }
+  }
+  const std::string deep = std::string(100000, '[');
+  EXPECT_THROW(BuildModel(Source("m.json", deep)), FileError);
+}
+
+std::string TextOf(const std::string& file) {
+  std::ostringstream text;
+  text << std::ifstream(ORVANE_SOURCE_DIR "/" + file).rdbuf();
+  return text.str();
+}
+
+TEST(Model, OfTheDocumentationIsTheExampleAndBuilds) {
+  const std::string example = TextOf("examples/rain.json");
+  ASSERT_FALSE(example.empty());
+  EXPECT_NE(TextOf("docs/command-line.md").find("```json\n" + example + "```\n"),
+            std::string::npos);
+  const std::string world = BuildWorld(Source("rain.json", example));
+  for (const char* part : {"\"Rain in Seattle, spring\"", "[ 4.8, 2.122, 1.6 ]", "\"250 mm\"",
+                           "ROUTE CHECK_BOX_2.value_changed TO SERIES_TOGGLE_2.set_contentsExist",
+                           "ROUTE X_AXIS_DRILL_DOWN.mouseClickedIndex TO X_AXIS_ROUTER"}) {
+    EXPECT_NE(world.find(part), std::string::npos) << part;
+  }
+}
+
+}  // namespace
+}  // namespace orvane::tool

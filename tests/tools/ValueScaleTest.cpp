@@ -1,0 +1,73 @@
+/// Round limits of the value axis.
+#include "ValueScale.h"
+
+#include <cmath>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace orvane::tool {
+namespace {
+
+struct Range {
+  double lowest, highest;
+  double low, high;
+  int cells;
+  const char* picture;
+  const char* unit;
+};
+
+TEST(RoundScale, ReachesRoundNumbersAroundTheValuesAndZero) {
+  const Range ranges[] = {
+      {0, 0, 0, 1, 4, "#,##0.00", ""},
+      {3, 284.5, 0, 300, 6, "#,##0", ""},
+      {1437, 42750, 0, 50000, 5, "#,##0", ""},
+      {-1375, 638, -1500, 1000, 5, "#,##0", ""},
+      {-4, -1, -4, 0, 4, "#,##0", ""},
+      {0, 100, 0, 100, 5, "#,##0", ""},
+      {0, 100.01, 0, 120, 6, "#,##0", ""},
+      {0, 0.3, 0, 0.3, 6, "#,##0.00", ""},
+      {0, 0.7, 0, 0.8, 4, "#,##0.0", ""},
+      {0, 14, 0, 15, 6, "#,##0.0", ""},
+      {0, 135450000, 0, 150, 6, "#,##0", "× 1,000,000"},
+      {0, 0.00012, 0, 120, 6, "#,##0", "× 0.000001"},
+      {0, 4e15, 0, 4, 4, "#,##0", "× 1e15"},
+      {-1e308, 1e308, -100, 100, 4, "#,##0", "× 1e306"},
+      {0, 5e-324, 0, 5, 5, "#,##0", "× 1e-324"},
+  };
+  for (const Range& range : ranges) {
+    const ValueScale scale = RoundScale(range.lowest, range.highest, 6);
+    SCOPED_TRACE(range.highest);
+    EXPECT_EQ(scale.low, range.low);
+    EXPECT_EQ(scale.high, range.high);
+    EXPECT_EQ(scale.cells, range.cells);
+    EXPECT_EQ(scale.LabelPicture(), range.picture);
+    EXPECT_EQ(scale.UnitText(), range.unit);
+    EXPECT_FALSE(std::signbit(scale.high) && scale.high == 0);
+  }
+}
+
+TEST(RoundScale, HoldsForAnyRange) {
+  std::mt19937 random(1);
+  std::uniform_real_distribution<double> mantissa(-10, 10);
+  std::uniform_int_distribution<int> exponent(-40, 40);
+  std::uniform_int_distribution<int> cells(2, 12);
+  for (int run = 0; run < 20000; ++run) {
+    const double a = mantissa(random) * std::pow(10, exponent(random));
+    const double b = mantissa(random) * std::pow(10, exponent(random));
+    const int mostCells = cells(random);
+    const ValueScale scale = RoundScale(std::min(a, b), std::max(a, b), mostCells);
+    const double slack = 1e-6 * scale.step;
+    ASSERT_LE(scale.cells, mostCells);
+    ASSERT_NEAR(scale.low + scale.cells * scale.step, scale.high, slack);
+    ASSERT_LE(scale.low, std::min({0.0, scale.InUnits(a), scale.InUnits(b)}) + slack);
+    ASSERT_GE(scale.high, std::max({0.0, scale.InUnits(a), scale.InUnits(b)}) - slack);
+    const double first = scale.step / std::pow(10, std::floor(std::log10(scale.step) + 1e-9));
+    ASSERT_TRUE(std::abs(first - 1) < 1e-6 || std::abs(first - 2) < 1e-6 ||
+                std::abs(first - 2.5) < 1e-6 || std::abs(first - 5) < 1e-6)
+        << scale.step;
+  }
+}
+
+}  // namespace
+}  // namespace orvane::tool

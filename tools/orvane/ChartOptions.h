@@ -1,0 +1,30 @@
+/// What a user may choose about a chart made from a table.
+#pragma once
+
+#include "Color.h"
+
+#include <optional>
+#include <string>
+
+namespace orvane::tool {
+
+/// Extents of a chart's grid, in scene units.
+struct GridSize {
+  float width = 0;
+  float height = 0;
+  float depth = 0;
+};
+
+/// What a user may ask a grid to measure in each direction.
+inline constexpr double kLeastExtent = 0.1;
+inline constexpr double kMostExtent = 10000;
+
+struct ChartOptions {
+  std::string title;
+  std::optional<GridSize> size;  ///< Fitted to the table when left out.
+  HostColor background = 0xFAF8F6;
+  bool useToggles = true;
+  bool usePopups = true;
+};
+
+}  // namespace orvane::tool

@@ -1,0 +1,228 @@
+#include "CommandLine.h"
+
+#include "AreaChart.h"
+#include "ChartOptions.h"
+#include "ModelBuilder.h"
+#include "Output.h"
+#include "ProtoFiles.h"
+#include "Source.h"
+#include "Table.h"
+#include "TypesReference.h"
+
+#include "orvane/host/AutomationError.h"
+#include "orvane/scene/OrvaneModule.h"
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+namespace orvane::tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Exit statuses; what the command line itself gets wrong counts as bad usage.
+constexpr int kDone = 0;
+constexpr int kBadData = 1;
+constexpr int kBadUsage = 2;
+
+/// Where a world goes and where it looks for its PROTO files.
+struct WorldOutput {
+  std::string path;                        ///< "-" for standard output.
+  std::optional<std::string> protoPrefix;  ///< Left out: the PROTO files go beside the world.
+};
+
+/// What the commands that chart a table are given.
+struct ChartRequest {
+  std::string table;
+  bool missingIsZero = false;
+  ChartOptions options;
+  WorldOutput output;
+};
+
+std::vector<OutputFile> ProtosIn(const fs::path& folder) {
+  std::vector<OutputFile> files;
+  for (const ProtoFile& proto : ProtoFiles()) files.push_back({folder / proto.name, proto.text});
+  return files;
+}
+
+/// Makes a world with `makeWorld` and writes it. No file is touched before all is made.
+void WriteWorld(const WorldOutput& output, std::ostream& out,
+                const std::function<std::string()>& makeWorld) {
+  OrvaneModule::RelativeProtoPath(output.protoPrefix.value_or(""));
+  const std::string world = makeWorld();
+  if (output.path == "-") {
+    out << world;
+    return;
+  }
+  const fs::path path = output.path;
+  auto files = output.protoPrefix ? std::vector<OutputFile>() : ProtosIn(path.parent_path());
+  files.push_back({path, world});
+  WriteFiles(files);
+}
+
+void WriteProtos(const fs::path& folder) {
+  std::error_code error;
+  fs::create_directories(folder, error);
+  if (error) throw FileError(folder.string() + ": cannot be made: " + error.message());
+  WriteFiles(ProtosIn(folder));
+}
+
+void AddOutputOptions(CLI::App& command, WorldOutput& output) {
+  command.add_option("-o,--output", output.path, "World to write, - for standard output")
+      ->required()
+      ->type_name("OUT.wrl");
+  const auto endsInSeparator = [](const std::string& prefix) {
+    return prefix.ends_with('/') || prefix.ends_with('\\') ? "" : "must end in / or \\";
+  };
+  command
+      .add_option("--proto-prefix", output.protoPrefix,
+                  "Folder or URL where the world finds its PROTO files, ending in / or \\;"
+                  " left out, they are written beside the world")
+      ->type_name("PREFIX")
+      ->check(CLI::Validator(endsInSeparator, ""));
+}
+
+void AddChartOptions(CLI::App& command, ChartRequest& request) {
+  ChartOptions& options = request.options;
+  command
+      .add_option("table", request.table,
+                  "CSV table: category labels in the first column, series names in the header")
+      ->required()
+      ->type_name("DATA.csv");
+  command.add_option("--title", options.title, "Title above the chart");
+
+  const auto isExtent = [](const std::string& text) {
+    double extent = 0;
+    const bool isNumber = CLI::detail::lexical_cast(text, extent);
+    return isNumber && extent >= kLeastExtent && extent <= kMostExtent
+               ? std::string()
+               : text + " is not a number from 0.1 to 10000";
+  };
+  const auto setSize = [&options](const std::vector<float>& extents) {
+    options.size = GridSize{extents[0], extents[1], extents[2]};
+  };
+  command
+      .add_option_function<std::vector<float>>(
+          "--size", setSize, "Extents of the grid in scene units; left out, fitted to the table")
+      ->type_name("W,H,D")
+      ->delimiter(',')
+      ->expected(3)
+      ->check(CLI::Validator(isExtent, ""));
+
+  const auto isColor = [](const std::string& text) {
+    return ParseColor(text) ? std::string() : text + " is not a colour (#rrggbb)";
+  };
+  const auto setBackground = [&options](const std::string& text) {
+    options.background = *ParseColor(text);
+  };
+  command
+      .add_option_function<std::string>("--background", setBackground,
+                                        "Colour behind the chart; texts and lines go with it")
+      ->type_name("#rrggbb")
+      ->check(CLI::Validator(isColor, ""));
+
+  const auto isZero = [](const std::string& text) {
+    return text == "zero" ? std::string() : text + " is not zero";
+  };
+  command.add_option("--missing", "What an empty cell stands for; left out, it is an error")
+      ->type_name("zero")
+      ->check(CLI::Validator(isZero, ""))
+      ->each([&request](const std::string&) { request.missingIsZero = true; });
+  command.add_flag_callback(
+      "--no-toggles", [&options] { options.useToggles = false; },
+      "Leave out the legend's check boxes");
+  command.add_flag_callback(
+      "--no-popups", [&options] { options.usePopups = false; },
+      "Leave out the texts shown at a value");
+  AddOutputOptions(command, request.output);
+}
+
+using MakeChart = std::function<std::shared_ptr<Chart>(const Table&, const ChartOptions&)>;
+
+/// Adds the command "chart `name`", which writes the world of what `makeChart` makes of its table.
+void AddChartCommand(CLI::App& charts, const std::string& name, const std::string& text,
+                     std::ostream& out, const MakeChart& makeChart) {
+  CLI::App& command = *charts.add_subcommand(name, text);
+  const auto request = std::make_shared<ChartRequest>();
+  AddChartOptions(command, *request);
+  command.callback([request, makeChart, &out] {
+    WriteWorld(request->output, out, [&] {
+      const auto missing = request->missingIsZero ? MissingCell::Zero : MissingCell::Error;
+      const Table table = ReadTable(Source::Read(request->table), missing);
+      return makeChart(table, request->options)->ExportToString(true, true);
+    });
+  });
+}
+
+void AddBuildCommand(CLI::App& app, std::ostream& out) {
+  CLI::App& command = *app.add_subcommand("build", "Build a world from a model of its objects");
+  const auto model = std::make_shared<std::string>();
+  const auto output = std::make_shared<WorldOutput>();
+  command.add_option("model", *model, "Model: a JSON object of properties and calls")
+      ->required()
+      ->type_name("MODEL.json");
+  AddOutputOptions(command, *output);
+  command.callback([model, output, &out] {
+    WriteWorld(*output, out, [&] { return BuildWorld(Source::Read(*model)); });
+  });
+}
+
+void AddProtosCommand(CLI::App& app) {
+  CLI::App& command =
+      *app.add_subcommand("protos", "Write the three PROTO files that every world refers to");
+  const auto folder = std::make_shared<std::string>();
+  command.add_option("folder", *folder, "Folder to write them to; made when missing")
+      ->required()
+      ->type_name("DIR");
+  command.callback([folder] { WriteProtos(*folder); });
+}
+
+void AddTypesCommand(CLI::App& app, std::ostream& out) {
+  CLI::App& command = *app.add_subcommand("types", "Print the object model as Markdown");
+  const auto className = std::make_shared<std::string>();
+  command.add_option("class", *className, "Only this class")->type_name("CLASS");
+  command.callback([className, &out] {
+    if (className->empty()) {
+      WriteTypesReference(out);
+    } else if (!WriteTypeReference(out, *className)) {
+      throw CLI::ValidationError("there is no class \"" + *className + "\"");
+    }
+  });
+}
+
+}  // namespace
+
+int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+  CLI::App app("Three-dimensional business charts as VRML97 worlds.", "orvane");
+  app.require_subcommand(1);
+  CLI::App& charts = *app.add_subcommand("chart", "Chart a table of numbers");
+  charts.require_subcommand(1);
+  AddChartCommand(charts, "area", "Areas, one behind the other", out, MakeAreaChart);
+  AddBuildCommand(app, out);
+  AddProtosCommand(app);
+  AddTypesCommand(app, out);
+
+  try {
+    app.parse(argc, argv);
+    if (!out.flush()) throw FileError("standard output: cannot be written");
+    return kDone;
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error, out, err) == 0 ? kDone : kBadUsage;
+  } catch (const FileError& error) {
+    err << error.what() << "\n";
+  } catch (const host::AutomationError& error) {
+    err << "orvane: " << error.Description() << "\n";
+  } catch (const std::system_error& error) {
+    err << "orvane: " << error.what() << "\n";
+  }
+  return kBadData;
+}
+
+}  // namespace orvane::tool

@@ -1,0 +1,194 @@
+#include "GridLayout.h"
+
+#include "orvane/components/NumberPicture.h"
+#include "orvane/scene/Utf8.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <string_view>
+#include <utility>
+
+namespace orvane::tool {
+namespace {
+
+/// A label takes at most this share of the room from one to the next.
+constexpr double kFill = 0.8;
+
+/// Legend rows advance by this many heights.
+constexpr double kLegendPitch = 1.35;
+
+/// One line of at most 24 characters: more would push the chart out of sight. Popups show the
+/// whole.
+std::string Label(std::string_view text) {
+  constexpr std::size_t kMostCharacters = 24;
+  std::string label;
+  for (std::size_t count = 1; !text.empty(); ++count) {
+    const std::size_t length = scene::Utf8Length(text);
+    if (count == kMostCharacters && length < text.size()) return label + "…";
+    const bool isControl = static_cast<unsigned char>(text.front()) < 0x20;
+    label += isControl ? " " : text.substr(0, length);
+    text.remove_prefix(length);
+  }
+  return label;
+}
+
+/// An upper estimate of a text's width: most Latin letters are little more than half as wide as the
+/// text is high, East Asian characters are square.
+double TextWidth(std::string_view text, double height) {
+  double width = 0;
+  while (!text.empty()) {
+    const std::size_t length = scene::Utf8Length(text);
+    width += length < 3 ? 0.56 : 1;
+    text.remove_prefix(length);
+  }
+  return width * height;
+}
+
+GridSize SizeFor(const Table& table) {
+  const double width = std::clamp(static_cast<double>(table.categories.size()), 8.0, 16.0);
+  const double height = std::clamp(0.5 * width, 5.0, 7.0);
+  const double depth = std::clamp(1.6 * static_cast<double>(table.series.size()), 2.0, 10.0);
+  return {static_cast<float>(width), static_cast<float>(height), static_cast<float>(depth)};
+}
+
+ValueScale ScaleOf(const Table& table) {
+  constexpr int kMostSteps = 6;
+  double lowest = 0;
+  double highest = 0;
+  for (const TableSeries& series : table.series) {
+    for (const TableCell& cell : series.cells) {
+      lowest = std::min(lowest, cell.number);
+      highest = std::max(highest, cell.number);
+    }
+  }
+  return RoundScale(lowest, highest, kMostSteps);
+}
+
+/// Labels `pitch` apart, as high as `wanted` where there is room. Where they would become
+/// unreadable, only every second, third, ... is shown.
+LabelColumn LayOutLabels(const std::vector<std::string>& texts, double pitch, double wanted) {
+  const double readable = 0.7 * wanted;
+  const auto step = static_cast<std::size_t>(std::max(1.0, std::ceil(readable / (kFill * pitch))));
+  LabelColumn column{{}, std::min(wanted, kFill * static_cast<double>(step) * pitch)};
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    column.texts.push_back(i % step == 0 ? Label(texts[i]) : "");
+  }
+  return column;
+}
+
+std::vector<std::string> NumbersOf(const ValueScale& scale) {
+  std::vector<std::string> texts;
+  for (int i = 0; i <= scale.cells; ++i) {
+    texts.push_back(
+        FormatNumber(static_cast<float>(scale.high - i * scale.step), scale.LabelPicture()));
+  }
+  return texts;
+}
+
+}  // namespace
+
+double LabelColumn::Width() const {
+  double widest = 0;
+  for (const std::string& text : texts) widest = std::max(widest, TextWidth(text, height));
+  return widest;
+}
+
+double GridLayout::LegendHeight() const {
+  return kLegendPitch * legend.height * static_cast<double>(legend.texts.size());
+}
+
+GridLayout LayOutGrid(const Table& table, const ChartOptions& options) {
+  GridLayout layout;
+  layout.size = options.size.value_or(SizeFor(table));
+  layout.scale = ScaleOf(table);
+  layout.title = options.title;
+  layout.xHeader = Label(table.categoryHeader);
+  layout.yHeader = layout.scale.UnitText();
+
+  std::vector<std::string> names;
+  for (const TableSeries& series : table.series) names.push_back(series.name);
+  const auto [width, height, depth] = layout.size;
+  const double cellWidth = width / static_cast<double>(table.categories.size());
+  const double cellHeight = height / static_cast<double>(layout.scale.cells);
+  const double cellDepth = depth / static_cast<double>(names.size());
+
+  layout.textHeight = 0.032 * std::hypot(width, height, depth);
+  layout.xLabels = LayOutLabels(table.categories, cellWidth, layout.textHeight);
+  layout.yLabels = LayOutLabels(NumbersOf(layout.scale), cellHeight, layout.textHeight);
+  layout.zLabels = LayOutLabels(names, cellDepth, layout.textHeight);
+
+  // All entries are shown, if need be small: each has its check box.
+  for (const std::string& name : names) layout.legend.texts.push_back(Label(name));
+  const double legendPitch = 0.9 * height / static_cast<double>(names.size());
+  layout.legend.height = std::min(layout.textHeight, legendPitch / kLegendPitch);
+
+  layout.titleHeight = 1.8 * layout.textHeight;
+  if (const double titleWidth = TextWidth(layout.title, 1); titleWidth > 0) {
+    const double fitting = 1.3 * width / titleWidth;
+    layout.titleHeight = std::clamp(fitting, 1.1 * layout.textHeight, layout.titleHeight);
+  }
+  // Seen from the corner, the upper edge of the back wall rises to the left by 0.3 of the way, as
+  // far as the wall goes, while the title is level.
+  const double overWall = std::min(TextWidth(layout.title, layout.titleHeight) / 2, 0.4 * width);
+  layout.titleLift = std::max(0.0, 0.26 * overWall + 0.3 * layout.titleHeight - 0.1 * height);
+  layout.titleZ = std::min(0.0, 0.25 * height - layout.LegendHeight());
+  return layout;
+}
+
+Subject SubjectOf(const GridLayout& layout) {
+  const double width = layout.size.width;
+  const double height = layout.size.height;
+  const double depth = layout.size.depth;
+  const double text = layout.textHeight;
+  Subject subject;
+
+  // Above the grid there is room for the popup of the highest value.
+  const double top = height + 2 * text;
+  for (const double x : {0.0, width}) {
+    for (const double y : {0.0, top}) {
+      for (const double z : {0.0, depth}) subject.points.push_back({x, y, z});
+    }
+  }
+
+  // Category labels lie in front of the grid and to the right of it, the header beyond them.
+  const double front = 1.02 * depth;
+  const double right = 1.02 * width;
+  for (const double x : {0.0, width}) {
+    subject.points.push_back({x, 0, front + layout.xLabels.Width()});
+  }
+  for (const double z : {0.0, depth}) {
+    subject.points.push_back({right + layout.zLabels.Width(), 0, z});
+  }
+  const double xHeader = TextWidth(layout.xHeader, text) / 2;
+  for (const double x : {width / 2 - xHeader, width / 2 + xHeader}) {
+    subject.points.push_back({x, 0, front + layout.HeaderDistance(layout.xLabels) + text});
+  }
+
+  // Value labels extend from the front left edge in the direction halfway between left and front.
+  const auto addBesideEdge = [&](double distance, double y) {
+    const double along = distance / std::numbers::sqrt2;
+    subject.points.push_back({-0.02 * width - along, y, front + along});
+  };
+  for (const double y : {-text / 2, height + text / 2}) addBesideEdge(layout.yLabels.Width(), y);
+  const double yHeader = TextWidth(layout.yHeader, text) / 2;
+  for (const double y : {height / 2 - yHeader, height / 2 + yHeader}) {
+    addBesideEdge(layout.HeaderDistance(layout.yLabels) + text, y);
+  }
+
+  if (!layout.title.empty()) {
+    const double half = TextWidth(layout.title, layout.titleHeight) / 2;
+    subject.signs.push_back({{width / 2, 1.1 * height + layout.titleLift, layout.titleZ},
+                             -half,
+                             half,
+                             -0.25 * layout.titleHeight,
+                             layout.titleHeight});
+  }
+  // Check box, key and text stand side by side.
+  const double legendWidth = 2.3 * layout.legend.height + layout.legend.Width();
+  subject.signs.push_back(
+      {{1.1 * width, 0.1 * height, 0}, 0, legendWidth, 0, layout.LegendHeight()});
+  return subject;
+}
+
+}  // namespace orvane::tool

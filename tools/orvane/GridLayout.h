@@ -1,0 +1,54 @@
+/// How large a grid chart and its texts are, so that labels stay readable and never run into each
+/// other.
+#pragma once
+
+#include "ChartOptions.h"
+#include "Table.h"
+#include "ValueScale.h"
+#include "Views.h"
+
+#include <string>
+#include <vector>
+
+namespace orvane::tool {
+
+/// The labels of an axis, one a cell or grid line: empty where a label would not fit.
+struct LabelColumn {
+  std::vector<std::string> texts;
+  double height = 0;
+
+  /// An upper estimate of the widest text.
+  double Width() const;
+};
+
+/// Texts and sizes of a chart over a grid. Lengths are in scene units.
+struct GridLayout {
+  GridSize size;
+  ValueScale scale;
+  LabelColumn xLabels;
+  LabelColumn yLabels;
+  LabelColumn zLabels;
+  LabelColumn legend;
+  std::string xHeader;
+  std::string yHeader;  ///< The unit of the values, when it is not 1.
+  std::string title;
+  double titleHeight = 0;
+  double titleLift = 0;   ///< Above its usual place, clear of the wall when seen from the corner.
+  double titleZ = 0;      ///< Behind the back wall, clear of a tall legend when seen from the top.
+  double textHeight = 0;  ///< Of headers and popups, and of labels that have the room.
+
+  double CellDepth() const { return size.depth / static_cast<double>(zLabels.texts.size()); }
+  double LegendHeight() const;
+  /// How far from the origin of `labels` their header begins.
+  double HeaderDistance(const LabelColumn& labels) const {
+    return labels.Width() + 0.4 * textHeight;
+  }
+};
+
+/// The layout for `table`: categories along x, values along y, one series a cell along z.
+GridLayout LayOutGrid(const Table& table, const ChartOptions& options);
+
+/// All that has to be in view, in the frame of the grid.
+Subject SubjectOf(const GridLayout& layout);
+
+}  // namespace orvane::tool

@@ -1,0 +1,20 @@
+/// Writing the program's output files: all of them or none.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace orvane::tool {
+
+struct OutputFile {
+  std::filesystem::path path;
+  std::string text;
+};
+
+/// Writes every file to a temporary neighbour first and moves them into place once all are written,
+/// so that a failure leaves the old files whole. Links are followed; what is no regular file (a
+/// pipe, a terminal) is written to as it is. Raises FileError.
+void WriteFiles(const std::vector<OutputFile>& files);
+
+}  // namespace orvane::tool

@@ -1,0 +1,44 @@
+/// A table of numbers read from CSV (RFC 4180): categories down, series across.
+///
+/// Read here rather than with a package so that every complaint names its line and column.
+#pragma once
+
+#include "Source.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace orvane::tool {
+
+/// What an empty cell among the numbers means.
+enum class MissingCell { Error, Zero };
+
+/// One number, beside the text that spells it in the file.
+struct TableCell {
+  double number = 0;
+  std::string text;
+};
+
+struct TableSeries {
+  std::string name;
+  std::vector<TableCell> cells;  ///< One for each category.
+};
+
+struct Table {
+  std::string categoryHeader;  ///< The header of the first column.
+  std::vector<std::string> categories;
+  std::vector<TableSeries> series;
+};
+
+/// The most categories or series that a chart's grid takes as cells.
+inline constexpr std::int16_t kMostCells = 32766;
+
+/// Reads a table whose first column holds category labels and whose header names the series.
+///
+/// Cells may be quoted; lines end in LF, CRLF or CR; empty lines are no rows. Numbers are decimal,
+/// with "." and an optional exponent, blanks around them ignored. Raises FileError for anything
+/// else, naming line and column.
+Table ReadTable(const Source& source, MissingCell missing);
+
+}  // namespace orvane::tool
