@@ -115,6 +115,14 @@ class View {
     ), { path, field });
   }
 
+  // Sends a node's MFFloat field new values, as a ROUTE would.
+  async send(path, field, values) {
+    await this.#inScene(({ find, sendFloats }, { path, field, values }) => (
+      sendFloats(find(path).at(-1), field, values)
+    ), { path, field, values });
+    await this.still();
+  }
+
   // The strings of every Text node that is drawn.
   texts() {
     return this.#inScene(({ drawnTexts }) => drawnTexts());
@@ -258,6 +266,10 @@ function sceneTools(X3D, canvas) {
     return [...field].map((element) => (typeof element === 'object' ? [...element] : element));
   }
 
+  function sendFloats(node, field, values) {
+    node.getField(field).assign(new X3D.MFFloat(...values));
+  }
+
   // Those of a node's children that are drawn.
   function chosen(node) {
     if (node.getTypeName() !== 'Switch') return children(node);
@@ -270,5 +282,5 @@ function sceneTools(X3D, canvas) {
       node.getTypeName() === 'Text' ? [...node.getField('string')] : drawnTexts(chosen(node))));
   }
 
-  return { find, place, plain, chosen, drawnTexts };
+  return { find, place, plain, sendFloats, chosen, drawnTexts };
 }

@@ -25,6 +25,8 @@ struct ChartOptions {
   HostColor background = 0xFAF8F6;
   bool useToggles = true;
   bool usePopups = true;
+  bool isRounded = false;  ///< Columns and ribbons with rounded edges rather than outlines.
+  bool isGrouped = false;  ///< Columns of all series side by side in one row of cells.
 };
 
 }  // namespace orvane::tool

@@ -1,10 +1,10 @@
 #include "CommandLine.h"
 
-#include "AreaChart.h"
 #include "ChartOptions.h"
 #include "ModelBuilder.h"
 #include "Output.h"
 #include "ProtoFiles.h"
+#include "SeriesCharts.h"
 #include "Source.h"
 #include "Table.h"
 #include "TypesReference.h"
@@ -144,14 +144,37 @@ void AddChartOptions(CLI::App& command, ChartRequest& request) {
   AddOutputOptions(command, request.output);
 }
 
+void AddStyleOption(CLI::App& command, ChartOptions& options) {
+  command
+      .add_option_function<std::string>(
+          "--style",
+          [&options](const std::string& style) { options.isRounded = style == "rounded"; },
+          "Edges of the shapes; left out, outlined")
+      ->type_name("outlined|rounded")
+      ->check(CLI::IsMember({"outlined", "rounded"}));
+}
+
+void AddGroupingOptions(CLI::App& command, ChartOptions& options) {
+  auto* grouped = command.add_flag_callback(
+      "--grouped", [&options] { options.isGrouped = true; }, "Series side by side in each cell");
+  command
+      .add_flag_callback(
+          "--stacked-rows", [&options] { options.isGrouped = false; },
+          "A row for each series, one behind the other: the default")
+      ->excludes(grouped);
+}
+
 using MakeChart = std::function<std::shared_ptr<Chart>(const Table&, const ChartOptions&)>;
 
 /// Adds the command "chart `name`", which writes the world of what `makeChart` makes of its table.
+/// `addOptions(command, options)` adds the options of this kind of chart.
 void AddChartCommand(CLI::App& charts, const std::string& name, const std::string& text,
-                     std::ostream& out, const MakeChart& makeChart) {
+                     std::ostream& out, const MakeChart& makeChart,
+                     const std::function<void(CLI::App&, ChartOptions&)>& addOptions) {
   CLI::App& command = *charts.add_subcommand(name, text);
   const auto request = std::make_shared<ChartRequest>();
   AddChartOptions(command, *request);
+  addOptions(command, request->options);
   command.callback([request, makeChart, &out] {
     WriteWorld(request->output, out, [&] {
       const auto missing = request->missingIsZero ? MissingCell::Zero : MissingCell::Error;
@@ -204,7 +227,15 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   app.require_subcommand(1);
   CLI::App& charts = *app.add_subcommand("chart", "Chart a table of numbers");
   charts.require_subcommand(1);
-  AddChartCommand(charts, "area", "Areas, one behind the other", out, MakeAreaChart);
+  AddChartCommand(charts, "area", "Areas, one behind the other", out, MakeAreaChart,
+                  [](CLI::App&, ChartOptions&) {});
+  AddChartCommand(charts, "column", "Columns, in rows or side by side", out, MakeColumnChart,
+                  [](CLI::App& command, ChartOptions& options) {
+                    AddStyleOption(command, options);
+                    AddGroupingOptions(command, options);
+                  });
+  AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, MakeRibbonChart,
+                  AddStyleOption);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
   AddTypesCommand(app, out);

@@ -45,10 +45,10 @@ double TextWidth(std::string_view text, double height) {
   return width * height;
 }
 
-GridSize SizeFor(const Table& table) {
+GridSize SizeFor(const Table& table, std::size_t rows) {
   const double width = std::clamp(static_cast<double>(table.categories.size()), 8.0, 16.0);
   const double height = std::clamp(0.5 * width, 5.0, 7.0);
-  const double depth = std::clamp(1.6 * static_cast<double>(table.series.size()), 2.0, 10.0);
+  const double depth = std::clamp(1.6 * static_cast<double>(rows), 2.0, 10.0);
   return {static_cast<float>(width), static_cast<float>(height), static_cast<float>(depth)};
 }
 
@@ -100,23 +100,24 @@ double GridLayout::LegendHeight() const {
 
 GridLayout LayOutGrid(const Table& table, const ChartOptions& options) {
   GridLayout layout;
-  layout.size = options.size.value_or(SizeFor(table));
+  std::vector<std::string> names;
+  for (const TableSeries& series : table.series) names.push_back(series.name);
+  const auto rows = options.isGrouped ? std::vector<std::string>{""} : names;
+  layout.size = options.size.value_or(SizeFor(table, rows.size()));
   layout.scale = ScaleOf(table);
   layout.title = options.title;
   layout.xHeader = Label(table.categoryHeader);
   layout.yHeader = layout.scale.UnitText();
 
-  std::vector<std::string> names;
-  for (const TableSeries& series : table.series) names.push_back(series.name);
   const auto [width, height, depth] = layout.size;
   const double cellWidth = width / static_cast<double>(table.categories.size());
   const double cellHeight = height / static_cast<double>(layout.scale.cells);
-  const double cellDepth = depth / static_cast<double>(names.size());
+  const double cellDepth = depth / static_cast<double>(rows.size());
 
   layout.textHeight = 0.032 * std::hypot(width, height, depth);
   layout.xLabels = LayOutLabels(table.categories, cellWidth, layout.textHeight);
   layout.yLabels = LayOutLabels(NumbersOf(layout.scale), cellHeight, layout.textHeight);
-  layout.zLabels = LayOutLabels(names, cellDepth, layout.textHeight);
+  layout.zLabels = LayOutLabels(rows, cellDepth, layout.textHeight);
 
   // All entries are shown, if need be small: each has its check box.
   for (const std::string& name : names) layout.legend.texts.push_back(Label(name));

@@ -37,6 +37,7 @@ struct GridLayout {
   double titleZ = 0;      ///< Behind the back wall, clear of a tall legend when seen from the top.
   double textHeight = 0;  ///< Of headers and popups, and of labels that have the room.
 
+  double CellWidth() const { return size.width / static_cast<double>(xLabels.texts.size()); }
   double CellDepth() const { return size.depth / static_cast<double>(zLabels.texts.size()); }
   double LegendHeight() const;
   /// How far from the origin of `labels` their header begins.
@@ -45,7 +46,8 @@ struct GridLayout {
   }
 };
 
-/// The layout for `table`: categories along x, values along y, one series a cell along z.
+/// The layout for `table`: categories along x, values along y, one series a cell along z, or all in
+/// one cell when they are grouped.
 GridLayout LayOutGrid(const Table& table, const ChartOptions& options);
 
 /// All that has to be in view, in the frame of the grid.

@@ -62,6 +62,9 @@ before(async () => {
   await writeFile(join(folder, 'table.csv'), TABLE);
   await writeFile(join(folder, 'model.json'), JSON.stringify(MODEL));
   await orvane('chart', 'area', 'table.csv', '--title', 'Rain', '-o', 'area.wrl');
+  await orvane('chart', 'column', 'table.csv', '--grouped', '-o', 'columns.wrl');
+  await orvane('chart', 'column', 'table.csv', '--style', 'rounded', '-o', 'rounded.wrl');
+  await orvane('chart', 'ribbon', 'table.csv', '-o', 'ribbons.wrl');
   await orvane('build', 'model.json', '-o', 'drill.wrl');
   for (const name of ['one', 'two', 'up']) {
     const target = fileURLToPath(new URL('worlds/two-views.wrl', import.meta.url));
@@ -116,19 +119,25 @@ test('draws a table: its words and something of it from every viewpoint', async 
 });
 
 describe('a series toggle', () => {
-  for (const series of [1, 2]) {
-    test(`takes series ${series} away and brings it back`, async () => {
-      await open('area.wrl');
+  for (const [world, series, other, shape] of [
+    ['area.wrl', '1', '2', 'qm4_OutlinedAreaSeries'],
+    ['area.wrl', '2', '1', 'qm4_OutlinedAreaSeries'],
+    ['columns.wrl', '2_1', '1_1', 'qm4_OutlinedColumnSeries'],
+    ['rounded.wrl', '1_2', '1_1', 'qm4_RoundedColumnSeries'],
+    ['ribbons.wrl', '1', '2', 'qm4_OutlinedRibbonSeries'],
+  ]) {
+    test(`takes series ${series} of ${world} away and brings it back`, async () => {
+      await open(world);
       const box = await view.at(`CHECK_BOX_${series}`);
       await view.move(ASIDE);
       const whole = await view.screenshot();
-      const area = [`SERIES_TOGGLE_${series}`, 'qm4_OutlinedAreaSeries'];
+      const area = [`SERIES_TOGGLE_${series}`, shape];
       assert.ok(await view.isDrawn(area));
 
       await view.click(box);
       await view.move(ASIDE);
       assert.equal(await view.isDrawn(area), false);
-      assert.ok(await view.isDrawn([`SERIES_TOGGLE_${3 - series}`, 'qm4_OutlinedAreaSeries']));
+      assert.ok(await view.isDrawn([`SERIES_TOGGLE_${other}`, shape]));
       assert.ok((await changed(whole)) > SEEN, 'the picture is the same without the series');
 
       await view.click(box);
@@ -138,10 +147,29 @@ describe('a series toggle', () => {
   }
 });
 
+describe('new heights', () => {
+  for (const [world, path] of [
+    ['area.wrl', ['SERIES_TOGGLE_1', 'qm4_OutlinedAreaSeries']],
+    ['columns.wrl', ['SERIES_TOGGLE_1_1', 'qm4_OutlinedColumnSeries']],
+    ['rounded.wrl', ['SERIES_TOGGLE_1_1', 'qm4_RoundedColumnSeries']],
+    ['ribbons.wrl', ['SERIES_TOGGLE_1', 'qm4_OutlinedRibbonSeries']],
+  ]) {
+    test(`draw the series of ${world} anew`, async () => {
+      await open(world);
+      const whole = await view.screenshot();
+      const heights = await view.read(path, 'heights');
+      await view.send(path, 'heights', heights.map((height) => 0.3 * height));
+      assert.ok((await changed(whole)) > SEEN, 'the picture is the same');
+      await view.send(path, 'heights', heights);
+      assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
+    });
+  }
+});
+
 describe('popups', () => {
   const strip = ['SERIES_TOGGLE_1', 'qm4_PopupStrip'];
 
-  // Where the strip of series 1 can be pointed at for a value: on its front, a little lower.
+  // Where a strip can be pointed at for a value: on its front, a little lower.
   async function valuePlaces() {
     const heights = await view.read(strip, 'pointHeights');
     const spacing = await view.read(strip, 'pointSpacing');
@@ -169,6 +197,20 @@ describe('popups', () => {
       assert.ok((await changed(before)) < SAME, 'the picture is not what it was');
     }
   });
+
+  for (const [world, toggle] of [['columns.wrl', 'SERIES_TOGGLE_1_1'], ['ribbons.wrl', 'SERIES_TOGGLE_1']]) {
+    test(`show the text of a value of ${world}, and go again`, async () => {
+      await open(world);
+      const path = [toggle, 'qm4_PopupStrip'];
+      const [height] = await view.read(path, 'pointHeights');
+      const [popup] = await view.read(path, 'popupTexts');
+      const depth = await view.read(path, 'stripDepth');
+      await view.move(await view.at(path, [0, 0.95 * height, 0.97 * depth]));
+      assert.ok(await shown(popup), `no popup "${popup}"`);
+      await view.move(ASIDE);
+      assert.equal(await shown(popup), false, `the popup "${popup}" has stayed`);
+    });
+  }
 
   test('go with their series', async () => {
     await open('area.wrl');

@@ -1,6 +1,7 @@
-/// Area charts from tables: where the numbers end up, and that labels keep clear of each other.
-#include "AreaChart.h"
+/// Charts of series from tables: where the numbers end up, and that labels keep clear of each
+/// other.
 #include "GridLayout.h"
+#include "SeriesCharts.h"
 
 #include <gtest/gtest.h>
 
@@ -89,6 +90,39 @@ TEST(AreaChart, IsReadableOnAnyBackground) {
       EXPECT_GE(Contrast(background, text), 3) << std::hex << background;
     }
   }
+}
+
+TEST(ColumnChart, StandsInRowsOrSideBySide) {
+  const Table table = TableOf("m,a,b\nx,1,2\ny,3,4\n");
+  ChartOptions options;
+  options.size = GridSize{4, 5, 3};
+  const auto rows = MakeColumnChart(table, options);
+  EXPECT_EQ(rows->ColumnsPerCell(), 1);
+  EXPECT_EQ(rows->GridProps()->ZAxisCellCount(), 2);
+  ExpectNear(rows->GetSeries(2)->Height().Items(), {2.5, 5});
+
+  options.isGrouped = true;
+  options.isRounded = true;
+  const auto grouped = MakeColumnChart(table, options);
+  grouped->ExportToString(true, true);
+  EXPECT_EQ(grouped->ColumnsPerCell(), 2);
+  EXPECT_EQ(grouped->GridProps()->ZAxisCellCount(), 1);
+  ExpectNear(grouped->GetSeries(1, 2)->Height().Items(), {2.5, 5});
+  EXPECT_EQ(grouped->GetSeries(1, 2)->LegendText(), "b");
+  EXPECT_EQ(grouped->GetSeries(1, 1)->Style(), ColumnStyle::ROUNDED_COLUMN);
+  // Together 0.8 of the cell of width 2, in its middle.
+  EXPECT_FLOAT_EQ(grouped->GetSeries(1, 1)->Width(), 0.8F);
+  EXPECT_FLOAT_EQ(grouped->GetSeries(1, 1)->Root()->translation.X(), 0.6F);
+  EXPECT_FLOAT_EQ(grouped->GetSeries(1, 2)->Root()->translation.X(), 1.4F);
+}
+
+TEST(RibbonChart, HasTheHeightsOfTheTable) {
+  ChartOptions options;
+  options.size = GridSize{4, 5, 3};
+  options.isRounded = true;
+  const auto chart = MakeRibbonChart(TableOf("m,a,b\nx,1,2\ny,3,4\n"), options);
+  ExpectNear(chart->GetSeries(1)->Height().Items(), {1.25, 3.75});
+  EXPECT_EQ(chart->GetSeries(2)->Style(), RibbonStyle::ROUNDED_RIBBON);
 }
 
 /// A table of `categories` x `series` cells.

@@ -1,0 +1,73 @@
+#include "SeriesCharts.h"
+
+#include "GridChart.h"
+#include "GridLayout.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace orvane::tool {
+namespace {
+
+using std::int16_t;
+
+/// Makes a chart of class `G`; `dress(chart, i, layout)` gives the series of the table's column
+/// `i`, from 0, its shape and returns it.
+template <class G, class F>
+std::shared_ptr<G> MakeChart(const Table& table, const ChartOptions& options, F dress) {
+  auto chart = std::make_shared<G>();
+  const GridLayout layout = LayOutGrid(table, options);
+  DressGridChart(*chart, layout, options);
+  for (std::size_t i = 0; i < table.series.size(); ++i) {
+    DressGridSeries(*dress(*chart, i, layout), i, table, layout, options);
+  }
+  return chart;
+}
+
+int16_t Row(std::size_t series) { return static_cast<int16_t>(series + 1); }
+
+}  // namespace
+
+std::shared_ptr<AreaGraph> MakeAreaChart(const Table& table, const ChartOptions& options) {
+  return MakeChart<AreaGraph>(table, options,
+                              [](AreaGraph& chart, std::size_t i, const auto& layout) {
+                                const auto series = chart.GetSeries(Row(i));
+                                series->Depth(static_cast<float>(0.5 * layout.CellDepth()));
+                                return series;
+                              });
+}
+
+std::shared_ptr<ColumnGraph> MakeColumnChart(const Table& table, const ChartOptions& options) {
+  return MakeChart<ColumnGraph>(
+      table, options, [&](ColumnGraph& chart, std::size_t i, const auto& layout) {
+        const auto slots = options.isGrouped ? table.series.size() : 1;
+        chart.ColumnsPerCell(static_cast<int16_t>(slots));
+        chart.ColumnSpacingStyle(ColumnCellSpacing::ADJACENT);
+        const auto series =
+            options.isGrouped ? chart.GetSeries(1, Row(i)) : chart.GetSeries(Row(i));
+        // The columns of a cell fill the same part of it, however many they are.
+        const double width =
+            (options.isGrouped ? 0.8 : 0.6) * layout.CellWidth() / static_cast<double>(slots);
+        const double depth = std::min(0.6 * layout.CellDepth(), 1.5 * width);
+        series->Width(static_cast<float>(width));
+        series->Depth(static_cast<float>(depth));
+        series->BevelRadius(static_cast<float>(0.15 * std::min(width, depth)));
+        if (options.isRounded) series->Style(ColumnStyle::ROUNDED_COLUMN);
+        return series;
+      });
+}
+
+std::shared_ptr<RibbonGraph> MakeRibbonChart(const Table& table, const ChartOptions& options) {
+  return MakeChart<RibbonGraph>(table, options,
+                                [&](RibbonGraph& chart, std::size_t i, const auto& layout) {
+                                  const auto series = chart.GetSeries(Row(i));
+                                  const double thickness = 0.025 * layout.size.height;
+                                  series->Depth(static_cast<float>(0.6 * layout.CellDepth()));
+                                  series->Thickness(static_cast<float>(thickness));
+                                  series->BevelRadius(static_cast<float>(0.4 * thickness));
+                                  if (options.isRounded) series->Style(RibbonStyle::ROUNDED_RIBBON);
+                                  return series;
+                                });
+}
+
+}  // namespace orvane::tool
