@@ -27,7 +27,7 @@ std::string Shortest(T number) {
 }  // namespace
 
 std::string Place::Describe() const {
-  const auto name = type.Name() + "." + member.name;
+  auto name = type.Name() + "." + member.name;
   if (argument >= member.parameters.size()) return name;
   return "argument " + std::to_string(argument + 1) + " (" + member.parameters[argument].name +
          ") of " + name;

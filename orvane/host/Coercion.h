@@ -41,7 +41,7 @@ ORVANE_API std::string ToText(const Value& value, const Place& place);
 ORVANE_API std::int32_t ToEnumerator(const Value& value, const EnumInfo& info, const Place& place);
 [[noreturn]] ORVANE_API void RaiseMismatch(const Value& value, const std::string& expected,
                                            const Place& place);
-/// `call()`, with the place in front of what an Overflow says.
+/// Raises Overflow for what a 32-bit float cannot hold, NaN included.
 ORVANE_API float ToSingle(const Value& value, const Place& place);
 
 /// Conversion of `T` to and from Value: Type(), From(value, place) and To(t).

@@ -21,16 +21,16 @@ class ORVANE_API Value {
   using Numbers = std::vector<double>;
 
   Value() = default;
-  Value(bool value) : m_storage(value) {}                    // NOLINT(google-explicit-constructor)
-  Value(std::int32_t value) : m_storage(value) {}            // NOLINT(google-explicit-constructor)
-  Value(float value) : m_storage(value) {}                   // NOLINT(google-explicit-constructor)
-  Value(double value) : m_storage(value) {}                  // NOLINT(google-explicit-constructor)
-  Value(std::string value) : m_storage(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-  Value(const char* value)
-      : m_storage(std::string(value)) {}                 // NOLINT(google-explicit-constructor)
-  Value(Numbers value) : m_storage(std::move(value)) {}  // NOLINT(google-explicit-constructor)
-  Value(std::shared_ptr<Object> value)
-      : m_storage(std::move(value)) {}  // NOLINT(google-explicit-constructor)
+  // NOLINTBEGIN(google-explicit-constructor): values are written as arguments.
+  Value(bool value) : m_storage(value) {}
+  Value(std::int32_t value) : m_storage(value) {}
+  Value(float value) : m_storage(value) {}
+  Value(double value) : m_storage(value) {}
+  Value(std::string value) : m_storage(std::move(value)) {}
+  Value(const char* value) : m_storage(std::string(value)) {}
+  Value(Numbers value) : m_storage(std::move(value)) {}
+  Value(std::shared_ptr<Object> value) : m_storage(std::move(value)) {}
+  // NOLINTEND(google-explicit-constructor)
 
   bool IsEmpty() const { return std::holds_alternative<std::monostate>(m_storage); }
 

@@ -108,6 +108,7 @@ std::vector<std::string> Factory::NodeTypes() const {
 
 std::vector<std::string> Factory::FieldTypes() {
   std::vector<std::string> names;
+  names.reserve(kFields.size());
   for (const auto& maker : kFields) names.emplace_back(maker.name);
   return names;
 }

@@ -157,8 +157,8 @@ void ListField<F, T>::Write(SceneWriter& out) const {
 
 template <class F, class T>
 std::size_t ListField<F, T>::ExpectedSize() const {
-  constexpr std::size_t kCharactersPerFloat = 12;
-  return m_items.size() * (sizeof(T) / sizeof(float)) * kCharactersPerFloat;
+  constexpr std::size_t kCharactersPerByte = 3;  // A float of 4 bytes takes some 10 characters.
+  return m_items.size() * sizeof(T) * kCharactersPerByte;
 }
 
 template <>
