@@ -4,10 +4,11 @@
 //   npm ci --prefix viewer/bench && node viewer/bench/columns.mjs
 //
 // The clock starts with the page's own script, when its library is loaded. "second frame" is the
-// start of the first animation frame after one that drew every column; "pixels" is when that picture
-// is finished, too. Both are the best of three rounds. Fails when the series take more than a tenth
-// of the time to the second frame that boxes take, each with an Appearance of its own. Boxes that
-// share one Appearance a row, as the series do, are quicker, and are shown for comparison only.
+// start of the first animation frame after one that drew every column; "pixels" is when that
+// picture is finished, too. Both are the best of three rounds. Fails when the series take more than
+// a tenth of the time to the second frame that boxes take, each with an Appearance of its own.
+// Boxes that share one Appearance a row, as the series do, are quicker, and are shown for
+// comparison only.
 
 import { mkdtemp, rm, writeFile } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
@@ -38,7 +39,8 @@ const DRIVER_REMARK = /GL Driver Message \(OpenGL, Performance/;
 const CELLS = Array.from({ length: SIDE }, (_, i) => i);
 
 function height(x, z) {
-  return Number((2 + 1.5 * Math.sin(x / 7) * Math.cos(z / 9) + ((7 * x + 13 * z) % 10) / 20).toFixed(3));
+  const wave = 1.5 * Math.sin(x / 7) * Math.cos(z / 9);
+  return Number((2 + wave + ((7 * x + 13 * z) % 10) / 20).toFixed(3));
 }
 
 const VIEW = `#VRML V2.0 utf8
@@ -177,10 +179,12 @@ async function measure(url) {
     tab.on('pageerror', (error) => complaints.push(String(error)));
     tab.on('console', (message) => {
       if (!['warning', 'error'].includes(message.type())) return;
-      if (!DRIVER_REMARK.test(message.text())) complaints.push(message.text());
+      if (DRIVER_REMARK.test(message.text())) return;
+      complaints.push(`${message.text()} (${message.location().url})`);
     });
     await tab.goto(url);
-    const result = await tab.waitForFunction('window.result', null, { polling: 250, timeout: PATIENCE });
+    const wait = { polling: 250, timeout: PATIENCE };
+    const result = await tab.waitForFunction('window.result', null, wait);
     if (complaints.length) throw new Error(`${url}: ${complaints.join('\n')}`);
     return await result.jsonValue();
   } finally {
