@@ -31,7 +31,7 @@ int16_t Row(std::size_t series) { return static_cast<int16_t>(series + 1); }
 std::shared_ptr<AreaGraph> MakeAreaChart(const Table& table, const ChartOptions& options) {
   return MakeChart<AreaGraph>(table, options,
                               [](AreaGraph& chart, std::size_t i, const auto& layout) {
-                                const auto series = chart.GetSeries(Row(i));
+                                auto series = chart.GetSeries(Row(i));
                                 series->Depth(static_cast<float>(0.5 * layout.CellDepth()));
                                 return series;
                               });
@@ -43,8 +43,7 @@ std::shared_ptr<ColumnGraph> MakeColumnChart(const Table& table, const ChartOpti
         const auto slots = options.isGrouped ? table.series.size() : 1;
         chart.ColumnsPerCell(static_cast<int16_t>(slots));
         chart.ColumnSpacingStyle(ColumnCellSpacing::ADJACENT);
-        const auto series =
-            options.isGrouped ? chart.GetSeries(1, Row(i)) : chart.GetSeries(Row(i));
+        auto series = options.isGrouped ? chart.GetSeries(1, Row(i)) : chart.GetSeries(Row(i));
         // The columns of a cell fill the same part of it, however many they are.
         const double width =
             (options.isGrouped ? 0.8 : 0.6) * layout.CellWidth() / static_cast<double>(slots);
@@ -60,7 +59,7 @@ std::shared_ptr<ColumnGraph> MakeColumnChart(const Table& table, const ChartOpti
 std::shared_ptr<RibbonGraph> MakeRibbonChart(const Table& table, const ChartOptions& options) {
   return MakeChart<RibbonGraph>(table, options,
                                 [&](RibbonGraph& chart, std::size_t i, const auto& layout) {
-                                  const auto series = chart.GetSeries(Row(i));
+                                  auto series = chart.GetSeries(Row(i));
                                   const double thickness = 0.025 * layout.size.height;
                                   series->Depth(static_cast<float>(0.6 * layout.CellDepth()));
                                   series->Thickness(static_cast<float>(thickness));
