@@ -37,13 +37,23 @@ void SetExtent(float extent, const scene::SFInt32& lineCount, scene::SFFloat& sp
   spacing.Value(CellSize(extent, CellCount(lineCount)));
 }
 
+/// Raises `changed` at the end; what one of its handlers rejects is taken back.
 void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat& spacing,
-                  const char* message) {
+                  host::Event<std::int16_t>& changed, const char* message) {
   host::Require(count >= 1, message);
   const std::int16_t lines = Int16(count + 1);
   const float cell = CellSize(Extent(lineCount, spacing), count);
+  const std::int32_t oldLines = lineCount.Value();
+  const float oldCell = spacing.Value();
   lineCount.Value(lines);
   spacing.Value(cell);
+  try {
+    changed(count);
+  } catch (const host::AutomationError&) {
+    lineCount.Value(oldLines);
+    spacing.Value(oldCell);
+    throw;
+  }
 }
 
 }  // namespace
@@ -96,9 +106,8 @@ void GridInfo::Width(float value) {
 std::int16_t GridInfo::XAxisCellCount() const { return CellCount(m_grid->xLineCount); }
 
 void GridInfo::XAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing,
+  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing, XCellCountChanged,
                "The graph must have at least one cell on the X axis");
-  XCellCountChanged(count);
 }
 
 float GridInfo::Height() const { return Extent(m_grid->yLineCount, m_grid->ySpacing); }
@@ -110,9 +119,8 @@ void GridInfo::Height(float value) {
 std::int16_t GridInfo::YAxisCellCount() const { return CellCount(m_grid->yLineCount); }
 
 void GridInfo::YAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing,
+  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing, YCellCountChanged,
                "The graph must have at least one cell on the Y axis");
-  YCellCountChanged(count);
 }
 
 float GridInfo::Depth() const { return Extent(m_grid->zLineCount, m_grid->zSpacing); }
@@ -124,9 +132,8 @@ void GridInfo::Depth(float value) {
 std::int16_t GridInfo::ZAxisCellCount() const { return CellCount(m_grid->zLineCount); }
 
 void GridInfo::ZAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing,
+  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing, ZCellCountChanged,
                "The graph must have at least one cell on the Z axis");
-  ZCellCountChanged(count);
 }
 
 void GridInfo::Transparency(float value) {

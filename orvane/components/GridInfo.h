@@ -54,7 +54,8 @@ class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
   float Transparency() const { return m_wallMaterial->transparency.Value(); }
   void Transparency(float value);
 
-  /// Raised after the count and its spacing have changed, with the new count.
+  /// Raised after the count and its spacing have changed, with the new count. When the chart
+  /// rejects the count by raising an error, the grid goes back to the old one.
   host::Event<std::int16_t> XCellCountChanged;
   host::Event<std::int16_t> YCellCountChanged;
   host::Event<std::int16_t> ZCellCountChanged;

@@ -78,6 +78,9 @@ class ORVANE_API MFString final : public ListField<MFString, std::string> {
   using ListField::Item;
   void Item(std::int32_t index, const std::string& text) { m_items[Position(index)] = text; }
   void Append(const std::string& text) { m_items.push_back(text); }
+  using ListField::Items;
+  /// Replaces all entries.
+  void Items(List items) { m_items = std::move(items); }
   /// Puts `text` at position `index`, 1..Count + 1, moving later entries back.
   void Insert(std::int32_t index, const std::string& text);
 };
@@ -95,6 +98,12 @@ class ORVANE_API MFFloat final : public ListField<MFFloat, float> {
   /// Numbers are finite and in the node's range; NotFinite or OutOfRange otherwise.
   void Item(std::int32_t index, float value) { m_items[Position(index)] = Checked(value, m_range); }
   void Append(float value) { m_items.push_back(Checked(value, m_range)); }
+  using ListField::Items;
+  /// Replaces all entries, or none when one of them raises.
+  void Items(List items) {
+    for (const float value : items) (void)Checked(value, m_range);
+    m_items = std::move(items);
+  }
 
  private:
   Interval m_range;

@@ -1,10 +1,9 @@
 /// The area chart: series that follow the grid, where the parts stand, names and ROUTEs.
 
 #include "support/Raises.h"
+#include "support/Routes.h"
 
 #include "orvane/graphs/grid/AreaGraph.h"
-
-#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -15,13 +14,7 @@ using tests::ComponentError;
 using tests::ErrorOf;
 
 std::vector<std::string> RoutesOf(AreaGraph& chart) {
-  const std::string text = chart.ExportToString(true, true);
-  std::vector<std::string> routes;
-  const std::regex line("\nROUTE ([^\n]*)");
-  for (std::sregex_iterator at(text.begin(), text.end(), line), end; at != end; ++at) {
-    routes.push_back((*at)[1].str());
-  }
-  return routes;
+  return tests::RoutesOf(chart.ExportToString(true, true));
 }
 
 class Area : public testing::Test {

@@ -1,10 +1,9 @@
 /// The column chart: slots and rows of series, where columns stand, two-level names.
 
 #include "support/Raises.h"
+#include "support/Routes.h"
 
 #include "orvane/graphs/grid/ColumnGraph.h"
-
-#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -92,15 +91,11 @@ TEST_F(Columns, RouteTwoLevelNames) {
   chart->GetSeries(2, 1)->ShowInLegend(false);
   chart->GetSeries(1, 2)->LegendText("x");
   const std::string before = Written();
-  std::vector<std::string> routes;
-  const std::regex line("\nROUTE ([^\n]*)");
-  for (std::sregex_iterator at(before.begin(), before.end(), line), end; at != end; ++at) {
-    routes.push_back((*at)[1].str());
-  }
-  EXPECT_EQ(routes, (std::vector<std::string>{
-                        "CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
-                        "CHECK_BOX_2_1.value_changed TO SERIES_TOGGLE_2_1.set_contentsExist",
-                        "CHECK_BOX_2_2.value_changed TO SERIES_TOGGLE_2_2.set_contentsExist"}));
+  EXPECT_EQ(tests::RoutesOf(before),
+            (std::vector<std::string>{
+                "CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
+                "CHECK_BOX_2_1.value_changed TO SERIES_TOGGLE_2_1.set_contentsExist",
+                "CHECK_BOX_2_2.value_changed TO SERIES_TOGGLE_2_2.set_contentsExist"}));
   EXPECT_EQ(Written(), before);
 }
 

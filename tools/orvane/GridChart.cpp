@@ -95,7 +95,7 @@ void DressGrid(GridGraph& chart, const GridLayout& layout, const Style& style) {
   grid.LineColor(style.line);
 }
 
-void DressAxes(GridGraph& chart, const GridLayout& layout, const Style& style) {
+void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& style) {
   DressAxis(*chart.XAxisProps(), layout.xLabels, layout.xHeader, layout, style);
   DressAxis(*chart.YAxisProps(), layout.yLabels, layout.yHeader, layout, style);
   DressAxis(*chart.ZAxisProps(), layout.zLabels, "", layout, style);
@@ -190,7 +190,7 @@ void CentreForExamining(GridGraph& chart, const GridLayout& layout) {
 
 }  // namespace
 
-void DressGridChart(GridGraph& chart, const GridLayout& layout, const ChartOptions& options) {
+void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartOptions& options) {
   const Style style(options.background);
   chart.BackgroundProps()->BackgroundColor(options.background);
   chart.BackgroundProps()->UseBackgroundColorFade(false);

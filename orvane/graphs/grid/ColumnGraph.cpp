@@ -76,9 +76,7 @@ float ColumnGraph::WidthOfSlots() const {
   return width;
 }
 
-void ColumnGraph::BuildSeries() {
-  LegendWiring legend(Legend(), Routes());
-  SeriesGroup().children.Clear();
+void ColumnGraph::BuildSeries(LegendWiring& legend) {
   const double cellWidth = CellWidth();
   const bool isAdjacent = m_spacingStyle == ColumnCellSpacing::ADJACENT;
   // Where the next of the adjacent slots begins; together they stand in the middle of the cell.

@@ -1,8 +1,8 @@
 /// The column chart.
 #pragma once
 
+#include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/graphs/grid/ColumnSeriesInfo.h"
-#include "orvane/graphs/grid/GridGraph.h"
 
 #include <cstdint>
 #include <memory>
@@ -13,7 +13,7 @@ enum class ColumnCellSpacing : std::int32_t { EVENLY_SPACED = 0, ADJACENT = 1 };
 
 /// Columns on the floor of a three-axis grid. Every X cell holds one or more slots side by side; a
 /// slot has a series of its own for each Z row.
-class ORVANE_API ColumnGraph final : public GridGraph {
+class ORVANE_API ColumnGraph : public CategoryGraph {
  public:
   static constexpr const char* kClassName = "ColumnGraph";
   const host::TypeInfo& Type() const override;
@@ -36,7 +36,7 @@ class ORVANE_API ColumnGraph final : public GridGraph {
   void ColumnsPerCell(std::int16_t count);
 
  protected:
-  void BuildSeries() override;
+  void BuildSeries(LegendWiring& legend) override;
 
  private:
   std::shared_ptr<SeriesCollection> Slot(std::int16_t index) const;

@@ -2,16 +2,19 @@
 /// put members of their own.
 #pragma once
 
-#include "orvane/graphs/grid/GridGraph.h"
+#include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/host/Describe.h"
 
 #include <memory>
+#include <utility>
 
 namespace orvane {
 
-/// BackgroundProps to ZAxisProps.
+/// BackgroundProps to ZAxisProps. The axes along X and Z may be of categories or of values.
 template <class G>
 void DescribeComponents(host::Describe<G>& graph) {
+  using XAxis = decltype(std::declval<const G&>().XAxisProps());
+  using ZAxis = decltype(std::declval<const G&>().ZAxisProps());
   graph
       .template Property<std::shared_ptr<BackgroundInfo>>("BackgroundProps", &G::BackgroundProps,
                                                           {"The sky"})
@@ -20,12 +23,10 @@ void DescribeComponents(host::Describe<G>& graph) {
                                                     {"The box of grid lines and walls"})
       .template Property<std::shared_ptr<LegendInfo>>("LegendProps", &G::LegendProps,
                                                       {"The legend"})
-      .template Property<std::shared_ptr<DiscreteAxis>>("XAxisProps", &G::XAxisProps,
-                                                        {"The axis of the categories"})
+      .template Property<XAxis>("XAxisProps", &G::XAxisProps, {"The axis along X"})
       .template Property<std::shared_ptr<ContinuousAxis>>("YAxisProps", &G::YAxisProps,
-                                                          {"The axis of the values"})
-      .template Property<std::shared_ptr<DiscreteAxis>>("ZAxisProps", &G::ZAxisProps,
-                                                        {"The axis of the series"});
+                                                          {"The axis of the values, along Y"})
+      .template Property<ZAxis>("ZAxisProps", &G::ZAxisProps, {"The axis along Z"});
 }
 
 template <class G>

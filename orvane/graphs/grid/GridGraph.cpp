@@ -1,8 +1,6 @@
 #include "orvane/graphs/grid/GridGraph.h"
 
-#include "orvane/graphs/AxisPlacement.h"
 #include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {
@@ -12,29 +10,25 @@ using host::Int16;
 using host::Quotient;
 using host::Single;
 
-constexpr float kQuarterTurn = 1.5708F;
 constexpr float kEighthTurn = 0.7854F;
 
 /// What stands at the edge of the grid keeps clear of it by this part of the extent.
 constexpr double kEdge = 1.02;
-
-/// Height of a cone's centre above the floor, in cone heights: the tip stays just off the floor.
-constexpr double kConeLift = 0.55;
 
 }  // namespace
 
 GridGraph::GridGraph()
     : m_grid(std::make_shared<GridInfo>()),
       m_legend(std::make_shared<LegendInfo>()),
-      m_xAxis(std::make_shared<DiscreteAxis>()),
       m_yAxis(std::make_shared<ContinuousAxis>()),
-      m_zAxis(std::make_shared<DiscreteAxis>()),
-      m_interactivity(std::make_shared<GridInteractivityInfo>()),
-      m_seriesGroup(scene::Create<scene::Group>()) {
-  Assemble({BackgroundProps().get(), TitleProps().get(), m_grid.get(), m_legend.get(),
-            m_xAxis.get(), m_yAxis.get(), m_zAxis.get(), m_interactivity.get(), Viewpoints().get(),
-            Lights().get()});
-  RootNode()->children.Append(m_seriesGroup);
+      m_contents(scene::Create<scene::Group>()) {}
+
+void GridGraph::AssembleGrid(const Axis& xAxis, const Axis& zAxis, const ISceneRoot* navigation) {
+  Assemble({BackgroundProps().get(), TitleProps().get(), m_grid.get(), m_legend.get(), &xAxis,
+            m_yAxis.get(), &zAxis});
+  if (navigation != nullptr) Assemble({navigation});
+  Assemble({Viewpoints().get(), Lights().get()});
+  RootNode()->children.Append(m_contents);
 }
 
 void GridGraph::Arrange() {
@@ -43,10 +37,10 @@ void GridGraph::Arrange() {
   AlignXAxis();
   AlignYAxis();
   AlignZAxis();
-  BuildSeries();
-  if (m_interactivity->UseDrillUp()) AlignDrillUp();
-  if (m_interactivity->UseXAxisDrillDown()) BuildXAxisDrillDown();
-  if (m_interactivity->UseZAxisDrillDown()) BuildZAxisDrillDown();
+  LegendWiring legend(*m_legend, Routes());
+  Contents().Clear();
+  BuildSeries(legend);
+  BuildNavigation();
 }
 
 float GridGraph::CellWidth() const {
@@ -69,17 +63,18 @@ void GridGraph::AlignLegend() {
   translation.Y(Single(0.1 * m_grid->Height()));
 }
 
-void GridGraph::AlignXAxis() {
-  const double cell = CellWidth();
-  // Flat on the floor in front of the grid, reading towards the back, one label a cell.
-  Place(*m_xAxis, {.count = m_grid->XAxisCellCount(),
-                   .alignment = LabelAlignment::RIGHT_ALIGN,
-                   .gap = CellWidth(),
-                   .x = cell / 2 - m_xAxis->LabelHeight() / 2.0,
-                   .y = {},
-                   .z = kEdge * m_grid->Depth(),
-                   .xAngle = -kQuarterTurn,
-                   .yAngle = kQuarterTurn});
+AxisPlacement GridGraph::XAxisPlacement(const Axis& axis, LabelsAt place) const {
+  const bool isInCells = place == LabelsAt::Cells;
+  const double first = isInCells ? CellWidth() / 2.0 : 0;
+  // Flat on the floor in front of the grid, reading towards the back.
+  return {.count = Int16(m_grid->XAxisCellCount() + (isInCells ? 0 : 1)),
+          .alignment = LabelAlignment::RIGHT_ALIGN,
+          .gap = CellWidth(),
+          .x = first - axis.LabelHeight() / 2.0,
+          .y = {},
+          .z = kEdge * m_grid->Depth(),
+          .xAngle = -kQuarterTurn,
+          .yAngle = kQuarterTurn};
 }
 
 void GridGraph::AlignYAxis() {
@@ -96,88 +91,26 @@ void GridGraph::AlignYAxis() {
         LabelingOrder::MAX_TO_MIN);
 }
 
-void GridGraph::AlignZAxis() {
-  const double cell = CellDepth();
-  // Flat on the floor to the right of the grid, one label a cell, the first one at the back.
-  Place(*m_zAxis, {.count = m_grid->ZAxisCellCount(),
-                   .alignment = LabelAlignment::LEFT_ALIGN,
-                   .gap = CellDepth(),
-                   .x = kEdge * m_grid->Width(),
-                   .y = {},
-                   .z = cell / 2 - m_zAxis->LabelHeight() / 2.0,
-                   .xAngle = -kQuarterTurn});
+AxisPlacement GridGraph::ZAxisPlacement(const Axis& axis, LabelsAt place) const {
+  const bool isInCells = place == LabelsAt::Cells;
+  const double first = isInCells ? CellDepth() / 2.0 : 0;
+  // Flat on the floor to the right of the grid, the first label at the back.
+  return {.count = Int16(m_grid->ZAxisCellCount() + (isInCells ? 0 : 1)),
+          .alignment = LabelAlignment::LEFT_ALIGN,
+          .gap = CellDepth(),
+          .x = kEdge * m_grid->Width(),
+          .y = {},
+          .z = first - axis.LabelHeight() / 2.0,
+          .xAngle = -kQuarterTurn};
 }
 
-void GridGraph::AlignDrillUp() {
-  const auto drillUp = m_interactivity->DrillUpProps();
-  auto& translation = drillUp->Root()->translation;
+float GridGraph::ConeLift(float coneHeight) { return Single(0.55 * coneHeight); }
+
+void GridGraph::AlignDrillUp(const DrillUpInfo& drillUp) const {
+  auto& translation = drillUp.Root()->translation;
   translation.X(m_grid->Width());
-  translation.Y(Single(kConeLift * drillUp->ConeHeight()));
+  translation.Y(ConeLift(drillUp.ConeHeight()));
   translation.Z(m_grid->Depth());
-}
-
-void GridGraph::BuildXAxisDrillDown() {
-  auto& cones = *m_interactivity->XAxisDrillDownProps();
-  WireDrillDown(cones, m_grid->XAxisCellCount(), CellWidth(), "X_AXIS");
-  auto& translation = cones.Root()->translation;
-  translation.X(Single(CellWidth() / 2.0));
-  translation.Z(m_grid->Depth());
-}
-
-void GridGraph::BuildZAxisDrillDown() {
-  auto& cones = *m_interactivity->ZAxisDrillDownProps();
-  WireDrillDown(cones, m_grid->ZAxisCellCount(), CellDepth(), "Z_AXIS");
-  auto& root = *cones.Root();
-  root.translation.X(m_grid->Width());
-  root.translation.Z(Single(CellDepth() / 2.0));
-  root.rotation.SetValue(0, 1, 0, -kQuarterTurn);  // The row runs along +Z.
-}
-
-void GridGraph::WireDrillDown(DrillDownInfo& cones, std::int16_t count, float spacing,
-                              const std::string& axis) {
-  cones.Count(count);
-  cones.Spacing(spacing);
-  cones.Root()->translation.Y(Single(kConeLift * cones.ConeHeight()));
-  const auto collection = cones.ConeCollectionNode();
-  const auto router = cones.RouterNode();
-  collection->SetDefName(axis + "_DRILL_DOWN");
-  router->SetDefName(axis + "_ROUTER");
-  Routes().AddRoute(collection, "mouseClickedIndex", router, "set_linkIndex");
-}
-
-void GridGraph::ResizeRows(SeriesCollection& rows, std::int16_t count,
-                           const std::function<std::shared_ptr<GridSeries>()>& make) const {
-  const float depth = Single(CellDepth() / 2.0);
-  while (rows.Count() > count) rows.RemoveSeries(rows.Count());
-  while (rows.Count() < count) {
-    const auto series = make();
-    series->Depth(depth);
-    rows.AddSeries(series);
-  }
-}
-
-void GridGraph::RequireSeries(std::int16_t index, const SeriesCollection& rows) {
-  const auto message = "Invalid series index, series count = " + std::to_string(rows.Count());
-  host::Require(index >= 1 && index <= rows.Count(), message.c_str());
-}
-
-std::shared_ptr<scene::Node> GridGraph::LayOutSeries(GridSeries& series, float x, std::int16_t row,
-                                                     const std::string& suffix,
-                                                     LegendWiring& legend) const {
-  const double cellDepth = CellDepth();
-  series.Count(m_grid->XAxisCellCount());
-  series.Spacing(CellWidth());
-  auto& translation = series.Root()->translation;
-  translation.X(x);
-  translation.Z(Single((row - 1) * cellDepth + cellDepth / 2 - series.Depth() / 2.0));
-  m_seriesGroup->children.Append(series.Root());
-  series.Height().CopyTo(series.PopupProps()->Height());
-  if (!series.ShowInLegend()) {
-    LegendWiring::Skip(*series.ContentToggle());
-    return nullptr;
-  }
-  return legend.Add(series.Appearance(), series.LegendText(), series.ContentToggle(),
-                    "SERIES_TOGGLE_" + suffix);
 }
 
 }  // namespace orvane

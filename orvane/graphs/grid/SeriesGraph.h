@@ -1,7 +1,7 @@
 /// A grid chart with one series in each Z cell.
 #pragma once
 
-#include "orvane/graphs/grid/GridGraph.h"
+#include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/host/Arithmetic.h"
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace orvane {
 
 /// `S` is the class of its series. Their number follows the grid's Z cell count.
 template <class S>
-class SeriesGraph : public GridGraph {
+class SeriesGraph : public CategoryGraph {
  public:
   /// Series `index`, 1..the number of series; a component error otherwise.
   std::shared_ptr<S> GetSeries(std::int16_t index) const {
@@ -26,9 +26,7 @@ class SeriesGraph : public GridGraph {
         [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
   }
 
-  void BuildSeries() override {
-    LegendWiring legend(Legend(), Routes());
-    SeriesGroup().children.Clear();
+  void BuildSeries(LegendWiring& legend) override {
     const float x = host::Single(CellWidth() / 2.0);
     for (std::int16_t i = 1; i <= m_series->Count(); ++i) {
       LayOutSeries(*m_series->Get<S>(i), x, i, std::to_string(i), legend);

@@ -1,0 +1,41 @@
+/// The members that surfaces, and the charts that hold them, show hosts, described once. Each is a
+/// step of its own, since the classes put members of their own in between.
+#pragma once
+
+#include "orvane/graphs/surface/SurfaceInfo.h"
+#include "orvane/host/Describe.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace orvane {
+
+template <class S>
+void DescribeMaterial(host::Describe<S>& surface) {
+  surface.template Property<std::shared_ptr<scene::Material>>(
+      "Material", &S::Material, {"Colours and transparency of the surface"});
+}
+
+template <class S>
+void DescribeLegendText(host::Describe<S>& surface) {
+  surface.template Property<std::string>(
+      "LegendText", &S::LegendText, &S::LegendText,
+      {"Text of the legend entry; none when it is blank", "", "", "\"\""});
+}
+
+template <class S>
+void DescribeWireColor(host::Describe<S>& surface) {
+  surface.template Property<std::int32_t>("WireColor", &S::WireColor, &S::WireColor,
+                                          {"Colour of the wires", "host RGB", "0..16777215", "0"});
+}
+
+/// GetSurface and SurfaceCount of a chart.
+template <class G>
+void DescribeSurfaces(host::Describe<G>& graph) {
+  graph.Method("GetSurface", &G::GetSurface, {"Index"}, {"One surface", "", "1..SurfaceCount"})
+      .template Property<std::int16_t>("SurfaceCount", &G::SurfaceCount, &G::SurfaceCount,
+                                       {"Number of surfaces", "", ">= 0", "0"});
+}
+
+}  // namespace orvane

@@ -1,0 +1,40 @@
+/// One surface of a surface or combination chart.
+#pragma once
+
+#include "orvane/graphs/surface/LatticeSurface.h"
+#include "orvane/graphs/surface/SurfacePopupInfo.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace orvane {
+
+/// A height and a popup text for each cell of the chart's grid, set point by point.
+class ORVANE_API SurfaceInfo final : public LatticeSurface {
+ public:
+  static constexpr const char* kClassName = "SurfaceInfo";
+  const host::TypeInfo& Type() const override;
+
+  SurfaceInfo();
+
+  /// Sets the height, in scene units, and the popup text of the point over the cell `xIndex`,
+  /// 1..XCount, `zIndex`, 1..ZCount; a component error otherwise.
+  void Set1HeightPoint(std::int16_t xIndex, std::int16_t zIndex, float newHeight,
+                       const std::string& PopupText);
+  std::shared_ptr<SurfacePopupInfo> PopupProps() const { return m_popups; }
+
+  float PopupZOffset() const override { return m_popups->Root()->translation.Z(); }
+  void PopupZOffset(float offset) override { m_popups->Root()->translation.Z(offset); }
+
+  /// Puts the lattice points over the centres of a grid's cells.
+  void StandInCells(float cellWidth, float cellDepth);
+
+ private:
+  /// Sets all heights to 0 and all texts to nothing as well.
+  void Resize(std::int16_t xCount, std::int16_t zCount) override;
+
+  std::shared_ptr<SurfacePopupInfo> m_popups = std::make_shared<SurfacePopupInfo>();
+};
+
+}  // namespace orvane
