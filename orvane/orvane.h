@@ -6,6 +6,7 @@
 #include "orvane/graphs/grid/AreaGraph.h"
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
+#include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
 #include "orvane/host/AutomationError.h"
 #include "orvane/scene/OrvaneModule.h"

@@ -4,6 +4,7 @@
 #include "orvane/graphs/grid/AreaGraph.h"
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
+#include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
 #include "orvane/scene/frmMain.h"
 
@@ -17,7 +18,7 @@ Objects Make() {
   return {std::make_shared<T>()...};
 }
 
-Objects Charts() { return Make<AreaGraph, ColumnGraph, RibbonGraph, SurfaceGraph>(); }
+Objects Charts() { return Make<AreaGraph, ColumnGraph, RibbonGraph, PieGraph, SurfaceGraph>(); }
 
 void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begin(), more.end()); }
 
@@ -25,11 +26,11 @@ void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begi
 
 Objects ObjectModel() {
   Objects all = Charts();
-  Append(all,
-         Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, SurfaceInfo, SurfacePopupInfo,
-              SeriesCollection, TextInfo, BackgroundInfo, GridInfo, DiscreteAxis, ContinuousAxis,
-              LegendInfo, SeriesToggleInfo, DrillUpInfo, DrillDownInfo, GridInteractivityInfo,
-              SeriesPopupInfo, ViewpointCollection, LightCollection, OrvaneScaler>());
+  Append(all, Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo,
+                   PieSpinAxisInfo, SurfaceInfo, SurfacePopupInfo, SeriesCollection, TextInfo,
+                   BackgroundInfo, GridInfo, DiscreteAxis, ContinuousAxis, LegendInfo,
+                   SeriesToggleInfo, DrillUpInfo, DrillDownInfo, GridInteractivityInfo,
+                   SeriesPopupInfo, ViewpointCollection, LightCollection, OrvaneScaler>());
   const auto factory = scene::CoreFactory();
   for (const auto& name : factory->NodeTypes()) all.push_back(factory->CreateNode(name));
   for (const auto& name : factory->FieldTypes()) all.push_back(factory->CreateField(name));

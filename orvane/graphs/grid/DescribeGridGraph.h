@@ -2,6 +2,7 @@
 /// put members of their own.
 #pragma once
 
+#include "orvane/graphs/DescribeChart.h"
 #include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/host/Describe.h"
 
@@ -33,23 +34,6 @@ template <class G>
 void DescribeInteractivity(host::Describe<G>& graph) {
   graph.template Property<std::shared_ptr<GridInteractivityInfo>>(
       "InteractivityProps", &G::InteractivityProps, {"Cones that load other worlds"});
-}
-
-template <class G>
-void DescribeViews(host::Describe<G>& graph) {
-  graph
-      .template Property<std::shared_ptr<ViewpointCollection>>("Viewpoints", &G::Viewpoints,
-                                                               {"The viewpoints"})
-      .template Property<std::shared_ptr<LightCollection>>("Lights", &G::Lights, {"The lights"});
-}
-
-template <class G>
-void DescribeExport(host::Describe<G>& graph) {
-  graph
-      .Method("ExportToFile", &G::ExportToFile, {"fName"},
-              {"Writes the world to a file; false when it could not be written"})
-      .Method("ExportToString", &G::ExportToString, {"includeBreaks", "includeTabs"},
-              {"The world as text"});
 }
 
 /// All members of a chart with one series in each Z cell.

@@ -1,0 +1,59 @@
+#include "orvane/graphs/pie/PieSpinAxisInfo.h"
+
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/Describe.h"
+#include "orvane/scene/frmMain.h"
+
+namespace orvane {
+
+const host::TypeInfo& PieSpinAxisInfo::Type() const {
+  using Axis = PieSpinAxisInfo;
+  static const host::TypeInfo type =
+      host::Describe<Axis>("The axis by which a viewer turns a pie.")
+          .Property<bool>("UseSpinAxis", &Axis::UseSpinAxis, &Axis::UseSpinAxis,
+                          {"Whether there is an axis", "", "", "false"})
+          .Property<float>("radius", &Axis::radius, &Axis::radius,
+                           {"Radius of the axis", "scene units", "> 0", "0.1"})
+          .Property<float>("Height", &Axis::Height, &Axis::Height,
+                           {"Height of the axis", "scene units", "> 0", "2"})
+          .Property<std::int32_t>("Color", &Axis::Color, &Axis::Color,
+                                  {"Colour of the axis", "host RGB", "0..16777215", "16777215"})
+          .Property<std::shared_ptr<scene::Node>>("CylinderSensorNode", &Axis::CylinderSensorNode,
+                                                  {"The sensor that reports the turn"});
+  return type;
+}
+
+PieSpinAxisInfo::PieSpinAxisInfo()
+    : m_root(scene::Create<scene::Transform>()),
+      m_shape(scene::Create<scene::Shape>()),
+      m_cylinder(scene::Create<scene::Cylinder>()),
+      m_sensor(scene::Create<scene::CylinderSensor>()),
+      m_appearance(scene::Create<scene::Appearance>()),
+      m_material(scene::Create<scene::Material>()) {
+  m_shape->geometry.Value(m_cylinder);
+  m_shape->appearance.Value(m_appearance);
+  m_appearance->material.Value(m_material);
+  Color(0xFFFFFF);
+  m_cylinder->radius.Value(0.1F);
+}
+
+void PieSpinAxisInfo::UseSpinAxis(bool use) {
+  if (use == m_isUsed) return;
+  m_isUsed = use;
+  m_root->children.Clear();
+  if (!use) return;
+  m_root->children.Append(m_sensor);
+  m_root->children.Append(m_shape);
+}
+
+void PieSpinAxisInfo::radius(float value) {
+  host::Require(value > 0, "Invalid axis radius, must be greater than 0");
+  m_cylinder->radius.Value(value);
+}
+
+void PieSpinAxisInfo::Height(float height) {
+  host::Require(height > 0, "Invalid axis height, must be greater than 0");
+  m_cylinder->height.Value(height);
+}
+
+}  // namespace orvane
