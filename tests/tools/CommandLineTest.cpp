@@ -106,6 +106,17 @@ TEST_F(CommandLine, AppliesItsOptions) {
   }
 }
 
+TEST_F(CommandLine, AppliesTheOptionsOfPies) {
+  Write("pie.csv", "m,a\nx,1\ny,\n");
+  const Outcome outcome = Orvane({"chart", "pie", "pie.csv", "-o", "-", "--missing", "zero",
+                                  "--style", "ring", "--labels", "always", "--spin"});
+  EXPECT_EQ(outcome.status, 0) << outcome.err;
+  for (const char* part : {"qm4_RoundedRingSlice", "SPIN_AXIS.rotation_changed", "\"100.0 %\""}) {
+    EXPECT_NE(outcome.out.find(part), std::string::npos) << part;
+  }
+  EXPECT_EQ(outcome.out.find("SLICE_TEXT_TOGGLE_"), std::string::npos);
+}
+
 TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
   Write("m.json", R"({"chart": "AreaGraph", "TitleProps": {"Text": "Model"}})");
   EXPECT_EQ(Orvane({"build", "m.json", "-o", "m.wrl"}).status, 0);
@@ -138,6 +149,7 @@ struct Rejected {
 TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
   Write("empty.csv", "");
   Write("bad.csv", "m,a\nx,abc\n");
+  Write("negative.csv", "m,a\nx,-1\n");
   Write("bad.json", "{\"chart\": \"AreaGraph\", \"GridProps\": {\"Width\": 0}}");
   fs::create_directory("folder");
   const std::string before = "what was there before";
@@ -177,6 +189,10 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
       {area({"t.csv", "-o", "o.wrl", "--background", "red"}), 2,
        "--background: red is not a colour (#rrggbb)\n"},
       {area({"t.csv", "-o", "o.wrl", "--missing", "one"}), 2, "--missing: one is not zero\n"},
+      {{"chart", "pie", "negative.csv", "-o", "o.wrl"},
+       1,
+       "negative.csv:2:3: the value -1 is negative\n"},
+      {{"chart", "pie", "t.csv", "--style", "flat", "-o", "o.wrl"}, 2, "--style: flat not in {"},
       {{"types", "Nothing"}, 2, "there is no class \"Nothing\"\n"},
   };
   for (const Rejected& rejected : cases) {

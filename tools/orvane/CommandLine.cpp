@@ -3,6 +3,7 @@
 #include "ChartOptions.h"
 #include "ModelBuilder.h"
 #include "Output.h"
+#include "PieChart.h"
 #include "ProtoFiles.h"
 #include "SeriesCharts.h"
 #include "Source.h"
@@ -14,6 +15,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,6 +46,8 @@ struct ChartRequest {
   bool missingIsZero = false;
   ChartOptions options;
   WorldOutput output;
+
+  MissingCell Missing() const { return missingIsZero ? MissingCell::Zero : MissingCell::Error; }
 };
 
 std::vector<OutputFile> ProtosIn(const fs::path& folder) {
@@ -89,32 +93,13 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
       ->check(CLI::Validator(endsInSeparator, ""));
 }
 
-void AddChartOptions(CLI::App& command, ChartRequest& request) {
+/// What charts of every kind take. `columns` says what the table holds.
+void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
   ChartOptions& options = request.options;
-  command
-      .add_option("table", request.table,
-                  "CSV table: category labels in the first column, series names in the header")
+  command.add_option("table", request.table, "CSV table: " + columns)
       ->required()
       ->type_name("DATA.csv");
   command.add_option("--title", options.title, "Title above the chart");
-
-  const auto isExtent = [](const std::string& text) {
-    double extent = 0;
-    const bool isNumber = CLI::detail::lexical_cast(text, extent);
-    return isNumber && extent >= kLeastExtent && extent <= kMostExtent
-               ? std::string()
-               : text + " is not a number from 0.1 to 10000";
-  };
-  const auto setSize = [&options](const std::vector<float>& extents) {
-    options.size = GridSize{extents[0], extents[1], extents[2]};
-  };
-  command
-      .add_option_function<std::vector<float>>(
-          "--size", setSize, "Extents of the grid in scene units; left out, fitted to the table")
-      ->type_name("W,H,D")
-      ->delimiter(',')
-      ->expected(3)
-      ->check(CLI::Validator(isExtent, ""));
 
   const auto isColor = [](const std::string& text) {
     return ParseColor(text) ? std::string() : text + " is not a colour (#rrggbb)";
@@ -138,10 +123,30 @@ void AddChartOptions(CLI::App& command, ChartRequest& request) {
   command.add_flag_callback(
       "--no-toggles", [&options] { options.useToggles = false; },
       "Leave out the legend's check boxes");
+  AddOutputOptions(command, request.output);
+}
+
+void AddGridOptions(CLI::App& command, ChartOptions& options) {
+  const auto isExtent = [](const std::string& text) {
+    double extent = 0;
+    const bool isNumber = CLI::detail::lexical_cast(text, extent);
+    return isNumber && extent >= kLeastExtent && extent <= kMostExtent
+               ? std::string()
+               : text + " is not a number from 0.1 to 10000";
+  };
+  const auto setSize = [&options](const std::vector<float>& extents) {
+    options.size = GridSize{extents[0], extents[1], extents[2]};
+  };
+  command
+      .add_option_function<std::vector<float>>(
+          "--size", setSize, "Extents of the grid in scene units; left out, fitted to the table")
+      ->type_name("W,H,D")
+      ->delimiter(',')
+      ->expected(3)
+      ->check(CLI::Validator(isExtent, ""));
   command.add_flag_callback(
       "--no-popups", [&options] { options.usePopups = false; },
       "Leave out the texts shown at a value");
-  AddOutputOptions(command, request.output);
 }
 
 void AddStyleOption(CLI::App& command, ChartOptions& options) {
@@ -173,13 +178,49 @@ void AddChartCommand(CLI::App& charts, const std::string& name, const std::strin
                      const std::function<void(CLI::App&, ChartOptions&)>& addOptions) {
   CLI::App& command = *charts.add_subcommand(name, text);
   const auto request = std::make_shared<ChartRequest>();
-  AddChartOptions(command, *request);
+  AddChartOptions(command, *request,
+                  "category labels in the first column, series names in the header");
+  AddGridOptions(command, request->options);
   addOptions(command, request->options);
   command.callback([request, makeChart, &out] {
     WriteWorld(request->output, out, [&] {
-      const auto missing = request->missingIsZero ? MissingCell::Zero : MissingCell::Error;
-      const Table table = ReadTable(Source::Read(request->table), missing);
+      const Table table = ReadTable(Source::Read(request->table), request->Missing());
       return makeChart(table, request->options)->ExportToString(true, true);
+    });
+  });
+}
+
+/// Adds an option that takes one of the names in `choices`.
+template <class T>
+void AddChoice(CLI::App& command, const std::string& name, T& choice,
+               const std::map<std::string, T>& choices, const std::string& names,
+               const std::string& text) {
+  command
+      .add_option_function<std::string>(
+          name, [&choice, choices](const std::string& chosen) { choice = choices.at(chosen); },
+          text)
+      ->type_name(names)
+      ->check(CLI::IsMember(choices));
+}
+
+void AddPieCommand(CLI::App& charts, std::ostream& out) {
+  CLI::App& command = *charts.add_subcommand("pie", "A pie of slices that can be pulled out");
+  const auto request = std::make_shared<ChartRequest>();
+  const auto pie = std::make_shared<PieOptions>();
+  AddChartOptions(command, *request, "labels, values and, on demand, heights, below a header");
+  AddChoice(
+      command, "--style", pie->style,
+      {{"outlined", PieStyle::Outlined}, {"rounded", PieStyle::Rounded}, {"ring", PieStyle::Ring}},
+      "outlined|rounded|ring", "Shape of the slices; left out, outlined");
+  AddChoice(command, "--labels", pie->labels,
+            {{"always", PieLabels::Always}, {"touch", PieLabels::Touch}}, "always|touch",
+            "When slices show their labels; left out, while they are touched");
+  command.add_flag_callback(
+      "--spin", [pie] { pie->useSpinAxis = true; }, "An axis that turns the pie");
+  command.callback([request, pie, &out] {
+    WriteWorld(request->output, out, [&] {
+      const auto shares = ReadPieTable(Source::Read(request->table), request->Missing());
+      return MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
     });
   });
 }
@@ -236,6 +277,7 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
                   });
   AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, MakeRibbonChart,
                   AddStyleOption);
+  AddPieCommand(charts, out);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
   AddTypesCommand(app, out);

@@ -1,9 +1,9 @@
 #include "GridChart.h"
 
+#include "ChartDress.h"
 #include "Palette.h"
 
 #include "orvane/control/OrvaneScaler.h"
-#include "orvane/scene/ViewNodes.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,23 +16,7 @@ namespace {
 
 using std::int16_t;
 
-constexpr HostColor kDark = 0x40342B;
-constexpr HostColor kLight = 0xFAF6F2;
 constexpr HostColor kWhite = 0xFFFFFF;
-
-/// The colours of everything but the series, derived from the background so that they go with it.
-struct Style {
-  explicit Style(HostColor background) {
-    const bool isLight = Contrast(background, kDark) > Contrast(background, kLight);
-    ink = isLight ? kDark : kLight;
-    wall = Mix(background, ink, isLight ? 0.24 : 0.12);
-    line = Mix(background, ink, 0.4);
-  }
-
-  HostColor ink;
-  HostColor wall;
-  HostColor line;
-};
 
 float Single(double value) { return static_cast<float>(value); }
 
@@ -45,16 +29,6 @@ std::shared_ptr<scene::Transform> TransformIn(const scene::MFNode& children, int
 /// when the baseline is 0.35 below it.
 void CentreLabels(const Axis& axis, const LabelColumn& labels) {
   TransformIn(axis.Root()->children, 1)->translation.Y(Single(-0.85 * labels.height));
-}
-
-/// Moves all that hangs in `children` by (x, y) in their common frame.
-void Move(scene::MFNode& children, double x, double y) {
-  const auto shift = std::make_shared<scene::Transform>();
-  shift->translation.X(Single(x));
-  shift->translation.Y(Single(y));
-  children.CopyTo(shift->children);
-  children.Clear();
-  children.Append(shift);
 }
 
 /// Moves the header of `axis` out by `distance`, away from the labels, and, like the labels, half a
@@ -108,98 +82,21 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   values.Max(Single(layout.scale.high));
 }
 
-/// A billboard that faces the viewer also from above.
-void FaceViewer(const std::shared_ptr<scene::Node>& billboard) {
-  const auto node = std::dynamic_pointer_cast<scene::Billboard>(billboard);
-  node->axisOfRotation.Y(0);
-}
-
-void DressTitleAndLegend(GridGraph& chart, const GridLayout& layout, const ChartOptions& options,
-                         const Style& style) {
-  TextInfo& title = *chart.TitleProps();
-  title.Text(layout.title);
-  title.TextHeight(Single(layout.titleHeight));
-  title.TextColor(style.ink);
-  title.TextFont(VRMLFontFamily::VRML_SANS);
-  title.TextStyle(VRMLFontStyle::VRML_BOLD);
-  title.Root()->translation.Z(Single(layout.titleZ));
-  title.IsBillboarded(true);
-  FaceViewer(title.Root()->children.Item(1));
-  Move(title.Root()->children, 0, layout.titleLift);
-
-  LegendInfo& legend = *chart.LegendProps();
-  legend.TextHeight(Single(layout.legend.height));
-  legend.TextColor(style.ink);
-  legend.IsBillboarded(true);
-  FaceViewer(legend.BillboardNode());
-  legend.UseSeriesToggle(options.useToggles);
-}
-
-void AddViews(GridGraph& chart, const GridLayout& layout) {
-  for (const View& view : ViewsOf(SubjectOf(layout))) {
-    scene::Viewpoint& viewpoint = *chart.Viewpoints()->AddViewpoint();
-    viewpoint.description.Value(view.description);
-    viewpoint.position.X(Single(view.position.x));
-    viewpoint.position.Y(Single(view.position.y));
-    viewpoint.position.Z(Single(view.position.z));
-    viewpoint.fieldOfView.Value(Single(kFieldOfView));
-    viewpoint.orientation.SetFromAngles(Single(view.pitch), Single(view.yaw), 0);
-  }
-}
-
-/// Lights that stay with the chart, so that no side of it is ever black, as the sides that a
-/// headlight only grazes would be. Front faces and tops get the most, the left and the back the
-/// least.
-void AddLights(GridGraph& chart, const GridLayout& layout) {
-  struct Light {
-    Point direction;
-    double intensity;
-  };
-  constexpr Light kLights[] = {{{0.35, 0.62, 0.70}, 0.85},
-                               {{-0.70, 0.35, 0.62}, 0.35},
-                               {{0.90, 0.20, -0.39}, 0.4},
-                               {{-0.30, 0.30, -0.90}, 0.45}};
-  const auto [width, height, depth] = layout.size;
-  const double distance = 4 * std::hypot(width, height, depth);
-  chart.Lights()->UseHeadlight(false);
-  for (const auto& [direction, intensity] : kLights) {
-    scene::PointLight& light = *chart.Lights()->AddLightSource();
-    light.location.X(Single(width / 2 + distance * direction.x));
-    light.location.Y(Single(height / 2 + distance * direction.y));
-    light.location.Z(Single(depth / 2 + distance * direction.z));
-    light.radius.Value(Single(2 * distance));
-    light.intensity.Value(Single(intensity));
-    light.ambientIntensity.Value(Single(0.4 * intensity));
-  }
-}
-
-/// Lets viewers turn the chart about its middle rather than walk through it.
-void CentreForExamining(GridGraph& chart, const GridLayout& layout) {
-  auto& translation = chart.RootNode()->translation;
-  translation.X(-layout.size.width / 2);
-  translation.Y(-layout.size.height / 2);
-  translation.Z(-layout.size.depth / 2);
-
-  const auto lights = std::dynamic_pointer_cast<scene::Group>(chart.Lights()->RootNode());
-  const auto navigation =
-      std::dynamic_pointer_cast<scene::NavigationInfo>(lights->children.Item(1));
-  navigation->type.Clear();
-  navigation->type.Append("EXAMINE");
-  navigation->type.Append("ANY");
-}
-
 }  // namespace
 
 void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartOptions& options) {
   const Style style(options.background);
-  chart.BackgroundProps()->BackgroundColor(options.background);
-  chart.BackgroundProps()->UseBackgroundColorFade(false);
+  const auto [width, height, depth] = layout.size;
+  const Point middle{width / 2.0, height / 2.0, depth / 2.0};
+  DressBackground(chart, options.background);
   DressGrid(chart, layout, style);
   DressAxes(chart, layout, style);
-  DressTitleAndLegend(chart, layout, options, style);
-  AddViews(chart, layout);
-  AddLights(chart, layout);
-  CentreForExamining(chart, layout);
+  DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight, layout.titleLift, layout.titleZ,
+             style);
+  DressLegend(*chart.LegendProps(), layout.legend.height, options.useToggles, style);
+  AddViews(chart, ViewsOf(SubjectOf(layout)));
+  AddLights(chart, middle, 4 * std::hypot(width, height, depth));
+  CentreForExamining(chart, middle);
 }
 
 void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
@@ -219,9 +116,9 @@ void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
     series.Height().Append(scaler.ScaledValue(Single(layout.scale.InUnits(data.cells[i].number))));
     popups.PopupText().Append(table.categories[i] + "\n" + data.name + ": " + data.cells[i].text);
   }
-  popups.TextColor(kDark);
+  popups.TextColor(kDarkInk);
   popups.BackgroundColor(kWhite);
-  popups.BorderColor(Mix(kDark, kWhite, 0.5));
+  popups.BorderColor(Mix(kDarkInk, kWhite, 0.5));
   popups.TextHeight(Single(0.9 * layout.textHeight));
   popups.UsePopups(options.usePopups);
 }

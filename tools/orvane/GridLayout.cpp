@@ -1,12 +1,12 @@
 #include "GridLayout.h"
 
+#include "Texts.h"
+
 #include "orvane/components/NumberPicture.h"
-#include "orvane/scene/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <string_view>
 #include <utility>
 
 namespace orvane::tool {
@@ -14,36 +14,6 @@ namespace {
 
 /// A label takes at most this share of the room from one to the next.
 constexpr double kFill = 0.8;
-
-/// Legend rows advance by this many heights.
-constexpr double kLegendPitch = 1.35;
-
-/// One line of at most 24 characters: more would push the chart out of sight. Popups show the
-/// whole.
-std::string Label(std::string_view text) {
-  constexpr std::size_t kMostCharacters = 24;
-  std::string label;
-  for (std::size_t count = 1; !text.empty(); ++count) {
-    const std::size_t length = scene::Utf8Length(text);
-    if (count == kMostCharacters && length < text.size()) return label + "…";
-    const bool isControl = static_cast<unsigned char>(text.front()) < 0x20;
-    label += isControl ? " " : text.substr(0, length);
-    text.remove_prefix(length);
-  }
-  return label;
-}
-
-/// An upper estimate of a text's width: most Latin letters are little more than half as wide as the
-/// text is high, East Asian characters are square.
-double TextWidth(std::string_view text, double height) {
-  double width = 0;
-  while (!text.empty()) {
-    const std::size_t length = scene::Utf8Length(text);
-    width += length < 3 ? 0.56 : 1;
-    text.remove_prefix(length);
-  }
-  return width * height;
-}
 
 GridSize SizeFor(const Table& table, std::size_t rows) {
   const double width = std::clamp(static_cast<double>(table.categories.size()), 8.0, 16.0);

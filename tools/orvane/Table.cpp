@@ -92,7 +92,7 @@ std::string_view Trimmed(std::string_view text) {
 TableCell ReadNumber(const CsvCell& cell, MissingCell missing, const Source& source) {
   const std::string_view text = Trimmed(cell.text);
   if (text.empty()) {
-    if (missing == MissingCell::Zero) return {0, "0"};
+    if (missing == MissingCell::Zero) return {0, "0", cell.offset};
     source.Fail(cell.offset, "empty cell (--missing zero reads it as 0)");
   }
   const std::string quoted = '"' + std::string(text) + '"';
@@ -108,7 +108,7 @@ TableCell ReadNumber(const CsvCell& cell, MissingCell missing, const Source& sou
     source.Fail(cell.offset, quoted + " is too large or too small");
   }
   if (!std::isfinite(number)) source.Fail(cell.offset, quoted + " is not a finite number");
-  return {number, std::string(text)};
+  return {number, std::string(text), cell.offset};
 }
 
 void ReadHeader(const std::vector<CsvCell>& row, std::size_t rowEnd, const Source& source,
@@ -126,7 +126,7 @@ void ReadHeader(const std::vector<CsvCell>& row, std::size_t rowEnd, const Sourc
       source.Fail(cell.offset, "series name \"" + cell.text + "\" is already that of column " +
                                    std::to_string(first->second + 1));
     }
-    table.series.push_back({cell.text, {}});
+    table.series.push_back({cell.text, {}, cell.offset});
   }
 }
 

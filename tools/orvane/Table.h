@@ -5,6 +5,7 @@
 
 #include "Source.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -18,11 +19,13 @@ enum class MissingCell { Error, Zero };
 struct TableCell {
   double number = 0;
   std::string text;
+  std::size_t offset = 0;  ///< Where it stands in the file, for messages.
 };
 
 struct TableSeries {
   std::string name;
   std::vector<TableCell> cells;  ///< One for each category.
+  std::size_t offset = 0;        ///< Of the name in the header.
 };
 
 struct Table {

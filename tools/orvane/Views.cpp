@@ -75,19 +75,21 @@ Point NearestEye(const Camera& camera, const std::vector<Point>& points) {
 
 }  // namespace
 
+View ViewOf(const std::string& description, double pitch, double yaw, const Subject& subject) {
+  View view{description, pitch, yaw, {}};
+  const Camera camera(view);
+  view.position = NearestEye(camera, PointsOf(subject, camera));
+  return view;
+}
+
 std::vector<View> ViewsOf(const Subject& subject) {
   constexpr double kDegree = std::numbers::pi / 180;
   // Never level: texts on the floor could not be read, and some browsers draw a sky that fades in
   // one colour then. The side is seen a little from the front, past the series that stands there.
-  std::vector<View> views = {{"Corner", -24 * kDegree, 36 * kDegree, {}},
-                             {"Front", -14 * kDegree, 0, {}},
-                             {"Side", -14 * kDegree, 78 * kDegree, {}},
-                             {"Top", -75 * kDegree, 0, {}}};
-  for (View& view : views) {
-    const Camera camera(view);
-    view.position = NearestEye(camera, PointsOf(subject, camera));
-  }
-  return views;
+  return {ViewOf("Corner", -24 * kDegree, 36 * kDegree, subject),
+          ViewOf("Front", -14 * kDegree, 0, subject),
+          ViewOf("Side", -14 * kDegree, 78 * kDegree, subject),
+          ViewOf("Top", -75 * kDegree, 0, subject)};
 }
 
 }  // namespace orvane::tool

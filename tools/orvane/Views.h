@@ -1,4 +1,4 @@
-/// Viewpoints that show the whole of a chart, from the corner, the front, the side and the top.
+/// Viewpoints that show the whole of a chart.
 #pragma once
 
 #include <string>
@@ -42,8 +42,11 @@ struct View {
 /// that what stands at the back is not much smaller than what stands in front.
 inline constexpr double kFieldOfView = 0.5;
 
-/// The four views, the corner's first, each as near as the whole `subject` allows in a window of
+/// A view in the direction of the two angles, as near as the whole `subject` allows in a window of
 /// 4:3 or wider.
+View ViewOf(const std::string& description, double pitch, double yaw, const Subject& subject);
+
+/// The views from the corner, the front, the side and the top.
 std::vector<View> ViewsOf(const Subject& subject);
 
 }  // namespace orvane::tool
