@@ -1,16 +1,15 @@
 /// How fast worlds are written: 1,000,000 heights of a surface against a bare std::to_chars loop
 /// over the same numbers. The writer may take 1.3 times as long.
 
+#include "Rounds.h"
+
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/RouteList.h"
 #include "orvane/scene/SceneWriter.h"
 #include "orvane/scene/frmMain.h"
 
-#include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <random>
 #include <vector>
 
@@ -19,13 +18,6 @@ namespace {
 constexpr int kCount = 1'000'000;
 constexpr int kRounds = 25;
 constexpr double kLimit = 1.3;
-
-double MillisecondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
-}
 
 }  // namespace
 
@@ -55,17 +47,8 @@ int main() {
     worldSize = SceneWriter::Write(*surface, RouteList(), {true, true}).size();
   };
 
-  // Rounds alternate and the best of each counts, so that a busy machine does not decide.
-  std::vector<double> bareTimes, writerTimes;
-  for (int round = 0; round < kRounds; ++round) {
-    bareTimes.push_back(MillisecondsOf(bare));
-    writerTimes.push_back(MillisecondsOf(writer));
-  }
-  const double bareBest = std::ranges::min(bareTimes);
-  const double writerBest = std::ranges::min(writerTimes);
-  const double ratio = writerBest / bareBest;
+  const auto [bareBest, writerBest] = orvane::bench::BestOf(kRounds, bare, writer);
   std::printf("bare to_chars loop  %8.2f ms  %zu characters\n", bareBest, bareSize);
   std::printf("world of a surface  %8.2f ms  %zu characters\n", writerBest, worldSize);
-  std::printf("ratio %.3f, limit %.1f: %s\n", ratio, kLimit, ratio <= kLimit ? "met" : "missed");
-  return ratio <= kLimit ? 0 : 1;
+  return orvane::bench::Judge(writerBest / bareBest, kLimit);
 }

@@ -7,6 +7,8 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/graphs/pie/PieGraph.h"
+#include "orvane/graphs/surface/RCComboGraph.h"
+#include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
 #include "orvane/host/AutomationError.h"
 #include "orvane/scene/OrvaneModule.h"

@@ -5,6 +5,8 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/graphs/pie/PieGraph.h"
+#include "orvane/graphs/surface/RCComboGraph.h"
+#include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
 #include "orvane/scene/frmMain.h"
 
@@ -18,7 +20,10 @@ Objects Make() {
   return {std::make_shared<T>()...};
 }
 
-Objects Charts() { return Make<AreaGraph, ColumnGraph, RibbonGraph, PieGraph, SurfaceGraph>(); }
+Objects Charts() {
+  return Make<AreaGraph, ColumnGraph, PieGraph, RibbonGraph, SurfaceGraph, SCComboGraph,
+              RCComboGraph>();
+}
 
 void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begin(), more.end()); }
 

@@ -13,7 +13,7 @@
 namespace orvane {
 
 /// One run through a chart's series. It begins with an empty legend.
-class LegendWiring {
+class ORVANE_API LegendWiring {
  public:
   LegendWiring(LegendInfo& legend, scene::RouteList& routes) : m_legend(legend), m_routes(routes) {
     m_legend.ClearLegend();

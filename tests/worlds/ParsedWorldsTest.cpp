@@ -128,5 +128,30 @@ TEST(ParsedArea, IsCompleteWithoutSeries) {
   EXPECT_EQ(world.CountOf("qm4_OutlinedAreaSeries"), 0);
 }
 
+TEST(ParsedCombos, HoldSeriesAndSurfaces) {
+  for (const char* name : {"SCComboGraph", "RCComboGraph"}) {
+    const auto chart = CreateChart(name);
+    chart->Get("GridProps").AsObject()->Let("ZAxisCellCount", 2);
+    chart->Get("LegendProps").AsObject()->Let("UseSeriesToggle", true);
+    chart->Let("SurfaceCount", 1);
+    const auto surface = chart->Call("GetSurface", {1}).AsObject();
+    surface->Let("LegendText", std::string("Plan"));
+    surface->Get("PopupProps").AsObject()->Let("UsePopups", true);
+    surface->Call("Set1HeightPoint", {4, 2, 2.5, std::string("last")});
+    const ParsedWorld world(*chart->Call("ExportToString", {true, true}).If<std::string>());
+    ASSERT_EQ(world.Complaints(), std::vector<std::string>()) << name;
+    SoNode* toggle = world.Named("SURFACE_1");
+    ASSERT_NE(toggle, nullptr);
+    EXPECT_EQ(world.TranslationAbove(toggle), "1 0.0099999998 2");
+    const auto contents = ParsedWorld::FieldOf(toggle, "contents");
+    EXPECT_NE(contents.find("[ 0, 0, 0, 0, 0, 0, 0, 2.5 ]"), std::string::npos) << contents;
+    EXPECT_EQ(world.CountOf("qm4_ElevationWireframe"), 1);
+    EXPECT_EQ(world.CountOf("qm4_PopupSurface"), 1);
+    EXPECT_EQ(world.CountOf("qm4_CheckBox"), 3);
+    EXPECT_EQ(world.Routes().back(),
+              "ROUTE CHECK_BOX_3.value_changed TO SURFACE_1.set_contentsExist");
+  }
+}
+
 }  // namespace
 }  // namespace orvane

@@ -3,6 +3,8 @@
 #include "orvane/host/Arithmetic.h"
 #include "orvane/host/AutomationError.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 using host::Single;
@@ -62,6 +64,14 @@ void CategoryGraph::ResizeRows(SeriesCollection& rows, std::int16_t count,
 void CategoryGraph::RequireSeries(std::int16_t index, const SeriesCollection& rows) {
   const auto message = "Invalid series index, series count = " + std::to_string(rows.Count());
   host::Require(index >= 1 && index <= rows.Count(), message.c_str());
+}
+
+float CategoryGraph::LargestDepthIn(const SeriesCollection& rows) {
+  float depth = 0;
+  for (std::int16_t i = 1; i <= rows.Count(); ++i) {
+    depth = std::max(depth, rows.Get<GridSeries>(i)->Depth());
+  }
+  return depth;
 }
 
 std::shared_ptr<scene::Node> CategoryGraph::LayOutSeries(GridSeries& series, float x,

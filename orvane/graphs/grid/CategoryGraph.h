@@ -38,6 +38,8 @@ class ORVANE_API CategoryGraph : public GridGraph {
   /// Raises the component error for a series index outside 1..the number of series in `rows`.
   static void RequireSeries(std::int16_t index, const SeriesCollection& rows);
 
+  static float LargestDepthIn(const SeriesCollection& rows);
+
   /// Puts one series into the scene: `x` is where its first value stands, `row` its Z cell from 1.
   /// Names of its toggle end in `suffix`. Returns its check box when it has one, else nullptr.
   std::shared_ptr<scene::Node> LayOutSeries(GridSeries& series, float x, std::int16_t row,

@@ -1,9 +1,10 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 
-#include "orvane/graphs/grid/DescribeGridGraph.h"
+#include "orvane/graphs/grid/DescribeColumnGraph.h"
 #include "orvane/host/Arithmetic.h"
 #include "orvane/host/AutomationError.h"
 
+#include <algorithm>
 #include <string>
 
 namespace orvane {
@@ -15,17 +16,9 @@ const host::TypeInfo& ColumnGraph::Type() const {
   using Graph = ColumnGraph;
   static const host::TypeInfo type =
       host::Describe<Graph>("Columns on the floor of a three-axis grid.")
-          .With(DescribeComponents<Graph>)
-          .Method("GetSeries", &Graph::GetSeries, {"Index", {"cellIndex", 1}},
-                  {"The series of one Z row and slot", "", "1..Z cells, 1..ColumnsPerCell"})
-          .With(DescribeInteractivity<Graph>)
-          .Property<ColumnCellSpacing>("ColumnSpacingStyle", &Graph::ColumnSpacingStyle,
-                                       &Graph::ColumnSpacingStyle,
-                                       {"How the slots share a cell", "", "", "EVENLY_SPACED"})
-          .With(DescribeViews<Graph>)
+          .With(DescribeColumns<Graph>)
           .With(DescribeExport<Graph>)
-          .Property<std::int16_t>("ColumnsPerCell", &Graph::ColumnsPerCell, &Graph::ColumnsPerCell,
-                                  {"Slots side by side in each cell", "", ">= 1", "1"});
+          .With(DescribeColumnsPerCell<Graph>);
   return type;
 }
 
@@ -65,6 +58,14 @@ void ColumnGraph::ResizeSlot(SeriesCollection& slot, std::int16_t rows) const {
 
 void ColumnGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
   for (std::int16_t i = 1; i <= m_slots->Count(); ++i) ResizeSlot(*Slot(i), newCount);
+}
+
+float ColumnGraph::LargestDepth() const {
+  float depth = 0;
+  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+    depth = std::max(depth, LargestDepthIn(*Slot(i)));
+  }
+  return depth;
 }
 
 float ColumnGraph::WidthOfSlots() const {

@@ -37,6 +37,8 @@ class ORVANE_API ColumnGraph : public CategoryGraph {
 
  protected:
   void BuildSeries(LegendWiring& legend) override;
+  /// The depth of the deepest series, 0 when there is none.
+  float LargestDepth() const;
 
  private:
   std::shared_ptr<SeriesCollection> Slot(std::int16_t index) const;

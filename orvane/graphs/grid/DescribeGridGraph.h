@@ -36,15 +36,20 @@ void DescribeInteractivity(host::Describe<G>& graph) {
       "InteractivityProps", &G::InteractivityProps, {"Cones that load other worlds"});
 }
 
-/// All members of a chart with one series in each Z cell.
+/// BackgroundProps to Lights of a chart with one series in each Z cell.
 template <class G>
-void DescribeSeriesGraph(host::Describe<G>& graph) {
+void DescribeSeries(host::Describe<G>& graph) {
   graph.With(DescribeComponents<G>)
       .Method("GetSeries", &G::GetSeries, {"Index"},
               {"One series; their number is the grid's Z cell count", "", "1..number of series"})
       .With(DescribeInteractivity<G>)
-      .With(DescribeViews<G>)
-      .With(DescribeExport<G>);
+      .With(DescribeViews<G>);
+}
+
+/// All members of a chart of nothing but such series.
+template <class G>
+void DescribeSeriesGraph(host::Describe<G>& graph) {
+  graph.With(DescribeSeries<G>).With(DescribeExport<G>);
 }
 
 }  // namespace orvane

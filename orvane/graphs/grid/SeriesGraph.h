@@ -33,6 +33,9 @@ class SeriesGraph : public CategoryGraph {
     }
   }
 
+  /// The depth of the deepest series, 0 when there is none.
+  float LargestDepth() const { return LargestDepthIn(*m_series); }
+
  private:
   void m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
     ResizeRows(*m_series, newCount, [] { return std::make_shared<S>(); });
