@@ -80,9 +80,9 @@ void SeriesToggleInfo::Resize(float height, float spacing) {
 }
 
 void SeriesToggleInfo::LayoutCheckBoxes() {
-  const float pitch = m_height + m_spacing;
-  auto below = static_cast<float>(m_transforms.size());
-  for (const auto& transform : m_transforms) transform->translation.Y(--below * pitch);
+  const double pitch = static_cast<double>(m_height) + m_spacing;
+  auto below = static_cast<double>(m_transforms.size());
+  for (const auto& transform : m_transforms) transform->translation.Y(Single(--below * pitch));
 }
 
 }  // namespace orvane
