@@ -1,12 +1,8 @@
 /// A chart's key: a coloured shape and a text for each series.
 #pragma once
 
-#include "orvane/components/ISceneRoot.h"
+#include "orvane/components/ChartLegend.h"
 #include "orvane/components/SeriesToggleInfo.h"
-#include "orvane/components/VrmlNames.h"
-#include "orvane/host/Object.h"
-#include "orvane/scene/GraphProtos.h"
-#include "orvane/scene/ShapeNodes.h"
 
 #include <cstdint>
 #include <memory>
@@ -29,28 +25,15 @@ class ORVANE_API ILegendInfo {
   virtual std::shared_ptr<scene::Node> BillboardNode() const = 0;
 };
 
-/// Entries are stored newest first, so that the first one added is drawn on top; check boxes, when
-/// they are in use, stand to the left of the entries at the same pitch.
-class ORVANE_API LegendInfo final : public host::Object, public ISceneRoot, public ILegendInfo {
+/// Its chart fills it at export. Check boxes, when they are in use, stand to the left of the
+/// entries at the same pitch and are as high as the texts.
+class ORVANE_API LegendInfo final : public ChartLegend, public ILegendInfo {
  public:
   static constexpr const char* kClassName = "LegendInfo";
   const host::TypeInfo& Type() const override;
 
   LegendInfo();
 
-  /// Default BOX_STYLE; values outside the enumeration are ignored.
-  LegendKeyStyle KeyStyle() const;
-  void KeyStyle(LegendKeyStyle style);
-  /// Whether the legend turns about its vertical axis to face the viewer. Default false.
-  bool IsBillboarded() const { return m_isBillboarded; }
-  void IsBillboarded(bool isBillboarded);
-  /// Height of the texts and boxes in scene units, > 0. Default 1. A let also sets the gap between
-  /// entries, to 0.35 heights.
-  float TextHeight() const { return m_legend->textHeight.Value(); }
-  void TextHeight(float height);
-  /// Host RGB colour, 0..0xFFFFFF. Default white.
-  std::int32_t TextColor() const { return m_legend->textColor.Value(); }
-  void TextColor(std::int32_t rgb) { m_legend->textColor.Value(rgb); }
   /// Whether check boxes are shown and wired to the series. Default false.
   bool UseSeriesToggle() const { return m_usesToggles; }
   void UseSeriesToggle(bool use);
@@ -59,23 +42,12 @@ class ORVANE_API LegendInfo final : public host::Object, public ISceneRoot, publ
                       const std::string& newText) override;
   void ClearLegend() override;
   std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const override;
-  std::shared_ptr<scene::Node> BillboardNode() const override { return m_billboard; }
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  std::shared_ptr<scene::Node> BillboardNode() const override { return Board(); }
 
  private:
-  /// The list that holds the legend and the boxes in the current arrangement.
-  scene::MFNode& Contents() const;
-  void ShiftLegend();
+  void Resize(float textHeight, float gap) override;
 
   std::shared_ptr<SeriesToggleInfo> m_toggles;
-  std::shared_ptr<scene::Transform> m_root;
-  std::shared_ptr<scene::Transform> m_legendTransform;
-  std::shared_ptr<scene::Billboard> m_billboard;
-  std::shared_ptr<scene::Legend> m_legend;
-  bool m_isBillboarded = false;
   bool m_usesToggles = false;
 };
 

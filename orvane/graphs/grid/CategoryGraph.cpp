@@ -1,5 +1,6 @@
 #include "orvane/graphs/grid/CategoryGraph.h"
 
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/host/Arithmetic.h"
 #include "orvane/host/AutomationError.h"
 
@@ -11,30 +12,34 @@ using host::Single;
 
 CategoryGraph::CategoryGraph() { AssembleGrid(*m_xAxis, *m_zAxis, m_interactivity.get()); }
 
-void CategoryGraph::AlignXAxis() { Place(*m_xAxis, XAxisPlacement(*m_xAxis, LabelsAt::Cells)); }
+void CategoryGraph::AlignXAxis() {
+  Place(*m_xAxis, XAxisPlacement(*m_xAxis, Grid(), LabelsAt::Cells));
+}
 
-void CategoryGraph::AlignZAxis() { Place(*m_zAxis, ZAxisPlacement(*m_zAxis, LabelsAt::Cells)); }
+void CategoryGraph::AlignZAxis() {
+  Place(*m_zAxis, ZAxisPlacement(*m_zAxis, Grid(), LabelsAt::Cells));
+}
 
 void CategoryGraph::BuildNavigation() {
-  if (m_interactivity->UseDrillUp()) AlignDrillUp(*m_interactivity->DrillUpProps());
+  if (m_interactivity->UseDrillUp()) PlaceDrillUp(*m_interactivity->DrillUpProps(), Grid());
   if (m_interactivity->UseXAxisDrillDown()) BuildXAxisDrillDown();
   if (m_interactivity->UseZAxisDrillDown()) BuildZAxisDrillDown();
 }
 
 void CategoryGraph::BuildXAxisDrillDown() {
   auto& cones = *m_interactivity->XAxisDrillDownProps();
-  WireDrillDown(cones, Grid().XAxisCellCount(), CellWidth(), "X_AXIS");
+  WireDrillDown(cones, Grid().XAxisCellCount(), CellWidth(Grid()), "X_AXIS");
   auto& translation = cones.Root()->translation;
-  translation.X(Single(CellWidth() / 2.0));
+  translation.X(Single(CellWidth(Grid()) / 2.0));
   translation.Z(Grid().Depth());
 }
 
 void CategoryGraph::BuildZAxisDrillDown() {
   auto& cones = *m_interactivity->ZAxisDrillDownProps();
-  WireDrillDown(cones, Grid().ZAxisCellCount(), CellDepth(), "Z_AXIS");
+  WireDrillDown(cones, Grid().ZAxisCellCount(), CellDepth(Grid()), "Z_AXIS");
   auto& root = *cones.Root();
   root.translation.X(Grid().Width());
-  root.translation.Z(Single(CellDepth() / 2.0));
+  root.translation.Z(Single(CellDepth(Grid()) / 2.0));
   root.rotation.SetValue(0, 1, 0, -kQuarterTurn);  // The row runs along +Z.
 }
 
@@ -52,7 +57,7 @@ void CategoryGraph::WireDrillDown(DrillDownInfo& cones, std::int16_t count, floa
 
 void CategoryGraph::ResizeRows(SeriesCollection& rows, std::int16_t count,
                                const std::function<std::shared_ptr<GridSeries>()>& make) const {
-  const float depth = Single(CellDepth() / 2.0);
+  const float depth = Single(CellDepth(Grid()) / 2.0);
   while (rows.Count() > count) rows.RemoveSeries(rows.Count());
   while (rows.Count() < count) {
     const auto series = make();
@@ -78,9 +83,9 @@ std::shared_ptr<scene::Node> CategoryGraph::LayOutSeries(GridSeries& series, flo
                                                          std::int16_t row,
                                                          const std::string& suffix,
                                                          LegendWiring& legend) const {
-  const double cellDepth = CellDepth();
+  const double cellDepth = CellDepth(Grid());
   series.Count(Grid().XAxisCellCount());
-  series.Spacing(CellWidth());
+  series.Spacing(CellWidth(Grid()));
   auto& translation = series.Root()->translation;
   translation.X(x);
   translation.Z(Single((row - 1) * cellDepth + cellDepth / 2 - series.Depth() / 2.0));

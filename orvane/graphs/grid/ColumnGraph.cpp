@@ -1,5 +1,6 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/DescribeColumnGraph.h"
 #include "orvane/host/Arithmetic.h"
 #include "orvane/host/AutomationError.h"
@@ -78,7 +79,7 @@ float ColumnGraph::WidthOfSlots() const {
 }
 
 void ColumnGraph::BuildSeries(LegendWiring& legend) {
-  const double cellWidth = CellWidth();
+  const double cellWidth = CellWidth(Grid());
   const bool isAdjacent = m_spacingStyle == ColumnCellSpacing::ADJACENT;
   // Where the next of the adjacent slots begins; together they stand in the middle of the cell.
   float offset = Single((cellWidth - WidthOfSlots()) / 2);

@@ -3,10 +3,8 @@
 #pragma once
 
 #include "orvane/components/ContinuousAxis.h"
-#include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/GridInfo.h"
 #include "orvane/components/LegendInfo.h"
-#include "orvane/graphs/AxisPlacement.h"
 #include "orvane/graphs/Chart.h"
 #include "orvane/graphs/LegendWiring.h"
 
@@ -41,27 +39,7 @@ class ORVANE_API GridGraph : public Chart {
   /// The Group's list, which holds the roots of the series or surfaces.
   scene::MFNode& Contents() const { return m_contents->children; }
 
-  /// Extent of one cell along X and along Z.
-  float CellWidth() const;
-  float CellDepth() const;
-
-  /// Where the labels of the axes on the floor stand: in the middle of each cell, or at each line.
-  enum class LabelsAt { Cells, Lines };
-  AxisPlacement XAxisPlacement(const Axis& axis, LabelsAt place) const;
-  AxisPlacement ZAxisPlacement(const Axis& axis, LabelsAt place) const;
-
-  static constexpr float kQuarterTurn = 1.5708F;  ///< In radians.
-
-  /// Height of the centre of a cone above the floor: its tip or base stays just off it.
-  static float ConeLift(float coneHeight);
-  /// Stands the drill-up cone on the front right corner of the grid.
-  void AlignDrillUp(const DrillUpInfo& drillUp) const;
-
  private:
-  void AlignTitle();
-  void AlignLegend();
-  void AlignYAxis();
-
   std::shared_ptr<GridInfo> m_grid;
   std::shared_ptr<LegendInfo> m_legend;
   std::shared_ptr<ContinuousAxis> m_yAxis;

@@ -1,6 +1,7 @@
 /// A grid chart with one series in each Z cell.
 #pragma once
 
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/host/Arithmetic.h"
 
@@ -27,7 +28,7 @@ class SeriesGraph : public CategoryGraph {
   }
 
   void BuildSeries(LegendWiring& legend) override {
-    const float x = host::Single(CellWidth() / 2.0);
+    const float x = host::Single(CellWidth(Grid()) / 2.0);
     for (std::int16_t i = 1; i <= m_series->Count(); ++i) {
       LayOutSeries(*m_series->Get<S>(i), x, i, std::to_string(i), legend);
     }

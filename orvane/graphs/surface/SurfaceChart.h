@@ -1,6 +1,7 @@
 /// What surface and combination charts share: surfaces over the cells of a chart with categories.
 #pragma once
 
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/surface/SurfaceInfo.h"
 #include "orvane/graphs/surface/SurfaceList.h"
 
@@ -34,7 +35,7 @@ class SurfaceChart : public G {
   /// Stands all surfaces over the cells and puts them into `children`.
   void LayOutSurfaces(scene::MFNode& children, LegendWiring& legend) const {
     m_surfaces.LayOut(children, legend, [this](SurfaceInfo& surface) {
-      surface.StandInCells(this->CellWidth(), this->CellDepth());
+      surface.StandInCells(CellWidth(this->Grid()), CellDepth(this->Grid()));
     });
   }
 

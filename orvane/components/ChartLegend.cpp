@@ -1,0 +1,59 @@
+#include "orvane/components/ChartLegend.h"
+
+#include "orvane/host/Arithmetic.h"
+#include "orvane/host/AutomationError.h"
+#include "orvane/scene/frmMain.h"
+
+namespace orvane {
+
+ChartLegend::ChartLegend()
+    : m_root(scene::Create<scene::Transform>()),
+      m_legendTransform(scene::Create<scene::Transform>()),
+      m_billboard(scene::Create<scene::Billboard>()),
+      m_legend(scene::Create<scene::Legend>()) {
+  m_legendTransform->children.Append(m_legend);
+  m_root->children.Append(m_legendTransform);
+}
+
+LegendKeyStyle ChartLegend::KeyStyle() const {
+  return FromVrmlName<LegendKeyStyle>(m_legend->keyStyle.Value());
+}
+
+void ChartLegend::KeyStyle(LegendKeyStyle style) {
+  if (IsEnumerator(style)) m_legend->keyStyle.Value(VrmlName(style));
+}
+
+void ChartLegend::IsBillboarded(bool isBillboarded) {
+  if (isBillboarded == m_isBillboarded) return;
+  const auto parts = Contents().Items();
+  m_root->children.Clear();
+  m_billboard->children.Clear();
+  if (isBillboarded) m_root->children.Append(m_billboard);
+  m_isBillboarded = isBillboarded;
+  for (const auto& part : parts) Contents().Append(part);
+}
+
+void ChartLegend::TextHeight(float height) {
+  host::Require(height > 0, "Invalid legend text height, must be greater than 0");
+  constexpr double kGap = 0.35;
+  const float gap = host::Single(height * kGap);
+  Resize(height, gap);
+  m_legend->textHeight.Value(height);
+  m_legend->entryGap.Value(gap);
+}
+
+void ChartLegend::AddEntry(const std::shared_ptr<scene::Appearance>& key, const std::string& text) {
+  m_legend->keyAppearances.Insert(1, key);
+  m_legend->entryTexts.Insert(1, text);
+}
+
+void ChartLegend::ClearEntries() {
+  m_legend->entryTexts.Clear();
+  m_legend->keyAppearances.Clear();
+}
+
+scene::MFNode& ChartLegend::Contents() const {
+  return m_isBillboarded ? m_billboard->children : m_root->children;
+}
+
+}  // namespace orvane

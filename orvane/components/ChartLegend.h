@@ -1,0 +1,64 @@
+/// What the legends of all charts share: keys and texts, their look, and whether they turn to the
+/// viewer.
+#pragma once
+
+#include "orvane/components/ISceneRoot.h"
+#include "orvane/components/VrmlNames.h"
+#include "orvane/host/Object.h"
+#include "orvane/scene/GraphProtos.h"
+#include "orvane/scene/ShapeNodes.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace orvane {
+
+/// Entries are stored newest first, so that the first one added is drawn on top.
+class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
+ public:
+  /// Default BOX_STYLE; values outside the enumeration are ignored.
+  LegendKeyStyle KeyStyle() const;
+  void KeyStyle(LegendKeyStyle style);
+  /// Whether the legend turns about its vertical axis to face the viewer. Default false.
+  bool IsBillboarded() const { return m_isBillboarded; }
+  void IsBillboarded(bool isBillboarded);
+  /// Height of the texts in scene units, > 0. Default 1. A let also sets the gap between entries,
+  /// to 0.35 heights.
+  float TextHeight() const { return m_legend->textHeight.Value(); }
+  void TextHeight(float height);
+  /// Host RGB colour, 0..0xFFFFFF. Default white.
+  std::int32_t TextColor() const { return m_legend->textColor.Value(); }
+  void TextColor(std::int32_t rgb) { m_legend->textColor.Value(rgb); }
+
+  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
+  /// The same node; its chart places it.
+  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  /// What turns the legend while IsBillboarded is true.
+  std::shared_ptr<scene::Billboard> Board() const { return m_billboard; }
+
+ protected:
+  ChartLegend();
+
+  /// Adds an entry above those there are.
+  void AddEntry(const std::shared_ptr<scene::Appearance>& key, const std::string& text);
+  void ClearEntries();
+
+  float EntryGap() const { return m_legend->entryGap.Value(); }
+  /// The list that holds the entries, and what else turns with them.
+  scene::MFNode& Contents() const;
+  /// Moves the entries to the right by `distance` scene units.
+  void ShiftEntries(float distance) { m_legendTransform->translation.X(distance); }
+
+ private:
+  /// Fits what stands beside the entries to a new height and gap; raises before anything changes.
+  virtual void Resize(float /*textHeight*/, float /*gap*/) {}
+
+  std::shared_ptr<scene::Transform> m_root;
+  std::shared_ptr<scene::Transform> m_legendTransform;
+  std::shared_ptr<scene::Billboard> m_billboard;
+  std::shared_ptr<scene::Legend> m_legend;
+  bool m_isBillboarded = false;
+};
+
+}  // namespace orvane
