@@ -5,6 +5,7 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/graphs/pie/PieGraph.h"
+#include "orvane/graphs/scatter/ScatterGraph.h"
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
@@ -21,8 +22,8 @@ Objects Make() {
 }
 
 Objects Charts() {
-  return Make<AreaGraph, ColumnGraph, PieGraph, RibbonGraph, SurfaceGraph, SCComboGraph,
-              RCComboGraph>();
+  return Make<AreaGraph, ColumnGraph, PieGraph, RibbonGraph, ScatterGraph, SurfaceGraph,
+              SCComboGraph, RCComboGraph>();
 }
 
 void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begin(), more.end()); }
@@ -31,11 +32,12 @@ void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begi
 
 Objects ObjectModel() {
   Objects all = Charts();
-  Append(all, Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo,
-                   PieSpinAxisInfo, SurfaceInfo, SurfacePopupInfo, SeriesCollection, TextInfo,
-                   BackgroundInfo, GridInfo, DiscreteAxis, ContinuousAxis, LegendInfo,
-                   SeriesToggleInfo, DrillUpInfo, DrillDownInfo, GridInteractivityInfo,
-                   SeriesPopupInfo, ViewpointCollection, LightCollection, OrvaneScaler>());
+  Append(all,
+         Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo, PieSpinAxisInfo,
+              PointCollection, ScatterLegendInfo, SliderInfo, SurfaceInfo, SurfacePopupInfo,
+              SeriesCollection, TextInfo, BackgroundInfo, GridInfo, DiscreteAxis, ContinuousAxis,
+              LegendInfo, SeriesToggleInfo, DrillUpInfo, DrillDownInfo, GridInteractivityInfo,
+              SeriesPopupInfo, ViewpointCollection, LightCollection, OrvaneScaler>());
   const auto factory = scene::CoreFactory();
   for (const auto& name : factory->NodeTypes()) all.push_back(factory->CreateNode(name));
   for (const auto& name : factory->FieldTypes()) all.push_back(factory->CreateField(name));

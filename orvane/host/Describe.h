@@ -8,6 +8,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -17,6 +18,11 @@ namespace orvane::host {
 /// How a let of type `T` is declared: numbers by value, texts by constant reference.
 template <class T>
 using LetArgument = std::conditional_t<std::is_same_v<T, std::string>, const std::string&, T>;
+
+/// Whether a parameter declared as `A` is an out-parameter: `float&`, but not `const float&`.
+template <class A>
+inline constexpr bool kIsOut =
+    std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>;
 
 /// Builds the TypeInfo of class `C`:
 ///
@@ -53,6 +59,8 @@ class Describe {
     return Add<T>(name, {}, Letter<T>(let), std::move(help));
   }
 
+  /// Parameters of a number type by reference are out-parameters; such a method returns nothing
+  /// else.
   template <class R, class Owner, class... A>
   Describe& Method(const char* name, R (Owner::*method)(A...), std::vector<Parameter> parameters,
                    Help help) {
@@ -125,8 +133,11 @@ class Describe {
   Describe& AddMethod(const char* name, Pointer method, std::vector<Parameter> parameters,
                       Help help) {
     std::size_t next = 0;
-    ((parameters.at(next++).type = Automation<std::remove_cvref_t<A>>::Type()), ...);
+    ((parameters.at(next).isOut = kIsOut<A>,
+      parameters[next++].type = Automation<std::remove_cvref_t<A>>::Type()),
+     ...);
     ValueType result;
+    if constexpr ((kIsOut<A> || ...)) result = {"Numbers"};
     if constexpr (!std::is_void_v<R>) result = Automation<R>::Type();
     auto call = [method, id = m_type.Members().size()](Object& object, Object::Arguments values) {
       return Invoke<R, A...>(static_cast<C&>(object), method, id, values,
@@ -141,16 +152,36 @@ class Describe {
                       [[maybe_unused]] Object::Arguments values, std::index_sequence<I...>) {
     [[maybe_unused]] const TypeInfo& info = object.Type();
     [[maybe_unused]] const Member& member = info.Members()[id];
-    const auto call = [&] {
-      return (object.*method)(Automation<std::remove_cvref_t<A>>::From(
-          I < values.size() ? values[I] : member.parameters[I].fallback, {info, member, I})...);
-    };
-    if constexpr (std::is_void_v<R>) {
+    std::tuple<std::remove_cvref_t<A>...> arguments{Argument<A>(
+        I < values.size() ? values[I] : member.parameters[I].fallback, {info, member, I})...};
+    const auto call = [&] { return (object.*method)(std::get<I>(arguments)...); };
+    if constexpr ((kIsOut<A> || ...)) {
+      static_assert(std::is_void_v<R>);
+      call();
+      Value::Numbers row;
+      (PutOut<A>(row, std::get<I>(arguments)), ...);
+      return row;
+    } else if constexpr (std::is_void_v<R>) {
       call();
       return {};
     } else {
       return Automation<R>::To(call());
     }
+  }
+
+  /// What goes into parameter `A` of a method: `value`, or room for what it hands back.
+  template <class A>
+  static std::remove_cvref_t<A> Argument(const Value& value, const Place& place) {
+    if constexpr (kIsOut<A>) {
+      return {};
+    } else {
+      return Automation<std::remove_cvref_t<A>>::From(value, place);
+    }
+  }
+
+  template <class A, class T>
+  static void PutOut(Value::Numbers& row, const T& argument) {
+    if constexpr (kIsOut<A>) row.push_back(argument);
   }
 
   TypeInfo m_type;

@@ -2,6 +2,8 @@
 
 #include "orvane/host/AutomationError.h"
 
+#include <algorithm>
+
 namespace orvane::host {
 namespace {
 
@@ -13,10 +15,15 @@ const Member& MemberAt(const TypeInfo& type, int id) {
   return type.Members()[static_cast<std::size_t>(id)];
 }
 
-std::size_t RequiredCount(const Member& member) {
-  std::size_t count = 0;
-  for (const auto& parameter : member.parameters) count += parameter.fallback.IsEmpty() ? 1 : 0;
-  return count;
+/// The parameters that a caller may give values for.
+std::size_t MostArguments(const Member& member) {
+  return static_cast<std::size_t>(std::ranges::count(member.parameters, false, &Parameter::isOut));
+}
+
+std::size_t LeastArguments(const Member& member) {
+  return static_cast<std::size_t>(std::ranges::count_if(
+      member.parameters,
+      [](const auto& parameter) { return !parameter.isOut && parameter.fallback.IsEmpty(); }));
 }
 
 [[noreturn]] void RaiseArgumentCount(const TypeInfo& type, const Member& member,
@@ -46,8 +53,8 @@ int TypeInfo::IdOf(std::string_view name) const {
 
 Value Object::Get(int id, Arguments arguments) {
   const Member& member = MemberAt(Type(), id);
-  const std::size_t most = member.parameters.size();
-  const std::size_t least = RequiredCount(member);
+  const std::size_t most = MostArguments(member);
+  const std::size_t least = LeastArguments(member);
   if (arguments.size() < least || arguments.size() > most) {
     const auto range = least == most ? std::to_string(most)
                                      : std::to_string(least) + " to " + std::to_string(most);

@@ -37,7 +37,8 @@ struct Parameter {
 
   std::string name;
   ValueType type;
-  Value fallback;  ///< Taken where the argument is left out; empty for a required parameter.
+  Value fallback;      ///< Taken where the argument is left out; empty for a required parameter.
+  bool isOut = false;  ///< The call hands it back. Out-parameters stand behind all others.
 };
 
 /// One property or method.
@@ -79,6 +80,9 @@ class ORVANE_API TypeInfo {
 
 /// An automation object. Early bound it is an ordinary C++ class; late bound its members are
 /// reached by name in any case, or by the identifier that TypeInfo::IdOf gives for the name.
+///
+/// A method with out-parameters is called without them and returns their values, in order, as a row
+/// of numbers.
 ///
 /// All three calls raise UnknownMember, WrongArgumentCount, TypeMismatch, Overflow and
 /// ReadOnlyProperty, besides what the member itself raises.

@@ -127,6 +127,8 @@ class ORVANE_API SFColor final : public SingleField<SFColor, Color> {
   const host::TypeInfo& Type() const override;
 
   SFColor() = default;
+  /// A free-standing field that holds `value`.
+  explicit SFColor(Color value) { m_value = value; }
   SFColor(Node& owner, const char* name, Color value, AccessKind access = AccessKind::ExposedField)
       : SingleField(owner, name, value, access) {}
 

@@ -121,6 +121,62 @@ TEST(ParsedRibbons, DifferFromAreasInTheSeriesAlone) {
   EXPECT_EQ(worlds[0], worlds[1]);
 }
 
+std::shared_ptr<ScatterGraph> ThreeFrames() {
+  auto chart = std::make_shared<ScatterGraph>();
+  chart->PointFrameCount(3);
+  for (std::int16_t i = 1; i <= 3; ++i) {
+    chart->Get1PointFrame(i)->AddPoint(i, 2, 3, 0.5F, 0x0000FF, 0.25F);
+    chart->Get1PointFrame(i)->AddPoint(0, i, 3, 0, 0xFFFFFF, 0);
+  }
+  chart->LegendProps()->AddLegendEntry(0x0000FF, "red");
+  chart->UseDrillUp(true);
+  chart->ExportToString(true, true);
+  return chart;
+}
+
+TEST(ParsedScatter, MovesThePointsOfItsFirstFrame) {
+  const auto chart = ThreeFrames();
+  chart->AnimationLoopStyle(LoopStyle::VRML_BACK_AND_FORTH);
+  const ParsedWorld world(chart->ExportToString(true, true));
+  ASSERT_EQ(world.Complaints(), std::vector<std::string>());
+  SoNode* points = world.Named("POINT_COLLECTION");
+  EXPECT_EQ(ParsedWorld::FieldOf(points, "locations"), "[ 1 2 3, 0 1 3 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(points, "colors"), "[ 1 0 0, 1 1 1 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(points, "transparencies"), "[ 0.25, 0 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(points, "radii"), "[ 0.5, 0 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("LOC_INT"), "keyValue"),
+            "[ 1 2 3, 0 1 3, 2 2 3, 0 2 3, 3 2 3, 0 3 3, 2 2 3, 0 2 3, 1 2 3, 0 1 3 ]");
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("TIME_KEEPER"), "cycleInterval"), "4");
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("TIME_KEEPER"), "loop"), "TRUE");
+  for (const auto& [type, count] : {std::pair("qm4_SphereCollection", 1),
+                                    {"qm4_Legend", 1},
+                                    {"qm4_Slider", 0},
+                                    {"VRMLAnchor", 1},
+                                    {"VRMLTimeSensor", 1}}) {
+    EXPECT_EQ(world.CountOf(type), count) << type;
+  }
+  EXPECT_EQ(world.Routes().size(), 2U);
+}
+
+TEST(ParsedScatter, ChoosesAmongItsFrames) {
+  const auto chart = ThreeFrames();
+  chart->PointAnimationStyle(AnimationStyle::VRML_DISCRETE);
+  chart->UseDrillUp(false);
+  const ParsedWorld world(chart->ExportToString(true, true));
+  ASSERT_EQ(world.Complaints(), std::vector<std::string>());
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("FRAME_SLIDER"), "maxValue"), "2");
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("FRAME_SWITCH"), "whichChoice"), "0");
+  for (const auto& [type, count] : {std::pair("qm4_SphereCollection", 3),
+                                    {"qm4_Legend", 1},
+                                    {"qm4_Slider", 1},
+                                    {"VRMLAnchor", 0},
+                                    {"VRMLTimeSensor", 0}}) {
+    EXPECT_EQ(world.CountOf(type), count) << type;
+  }
+  EXPECT_EQ(world.Named("POINT_COLLECTION"), nullptr);
+  EXPECT_EQ(world.Routes().size(), 1U);
+}
+
 TEST(ParsedArea, IsCompleteWithoutSeries) {
   const ParsedWorld world(std::make_shared<AreaGraph>()->ExportToString(true, false));
   EXPECT_EQ(world.Complaints(), std::vector<std::string>());

@@ -23,6 +23,7 @@ std::string Signature(const Member& member) {
     text += "(";
     for (const auto& parameter : member.parameters) {
       if (&parameter != &member.parameters.front()) text += ", ";
+      if (parameter.isOut) text += "out ";
       text += parameter.name + ": " + parameter.type.name;
       if (!parameter.fallback.IsEmpty()) text += " = " + host::ToText(parameter.fallback);
     }
@@ -91,8 +92,11 @@ void WriteEnumerations(std::ostream& out, const std::vector<const EnumInfo*>& en
 
 void WriteTypesReference(std::ostream& out) {
   out << "# Object model\n\n"
-         "Every public class, its members in slot order. Names are found in any case. Written by\n"
-         "`orvane types`; do not edit by hand.\n\n";
+         "Every public class, its members in slot order. Names are found in any case. A method "
+         "with\n"
+         "parameters marked `out` is called without them and hands back their values, in order, as "
+         "a\n"
+         "row of numbers. Written by `orvane types`; do not edit by hand.\n\n";
   const auto objects = ObjectModel();
   std::set<std::string> linked;
   for (const auto& object : objects) linked.insert(object->Type().Name());

@@ -35,7 +35,6 @@ class ORVANE_API GridGraph : public Chart {
   virtual void BuildNavigation() = 0;
 
   GridInfo& Grid() const { return *m_grid; }
-  LegendInfo& Legend() const { return *m_legend; }
   /// The Group's list, which holds the roots of the series or surfaces.
   scene::MFNode& Contents() const { return m_contents->children; }
 
