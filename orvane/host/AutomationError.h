@@ -20,6 +20,8 @@ enum class ErrorNumber : std::uint32_t {
   WrongArgumentCount = 0x8002000E,
   DivisionByZero = 0x80020012,
   ReadOnlyProperty = 0x800A017F,
+  FileAccess = 0x800A004B,    ///< A file of the host's that cannot be written.
+  PathNotFound = 0x800A004C,  ///< No such folder.
 
   ListIndex = 0x80040201,          ///< A list index outside 1..Count.
   NodeNotInList = 0x80040202,      ///< Remove of a node that the list does not hold.

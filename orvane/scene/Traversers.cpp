@@ -1,17 +1,14 @@
 #include "orvane/scene/Traversers.h"
 
 #include "orvane/host/Describe.h"
+#include "orvane/host/ReplaceFile.h"
 #include "orvane/scene/SceneError.h"
 
 #include <filesystem>
-#include <fstream>
-#include <random>
-#include <system_error>
+#include <string>
 
 namespace orvane::scene {
 namespace {
-
-namespace fs = std::filesystem;
 
 std::string Text(const std::shared_ptr<Node>& rootNode, const std::shared_ptr<RouteList>& routeList,
                  TextLayout layout) {
@@ -19,38 +16,6 @@ std::string Text(const std::shared_ptr<Node>& rootNode, const std::shared_ptr<Ro
     Raise(host::ErrorNumber::NoNode, "A writer needs a root node and a route list");
   }
   return SceneWriter::Write(*rootNode, *routeList, layout);
-}
-
-bool Put(const fs::path& file, const std::string& text) {
-  std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-  stream.write(text.data(), static_cast<std::streamsize>(text.size()));
-  stream.close();
-  return !stream.fail();
-}
-
-/// Writes to a neighbour of `file` and moves it into place, so that a reader sees the old text or
-/// the new one and never half of it. Links are followed; what is no regular file (a terminal, a
-/// pipe) is written to as it is.
-bool Replace(const std::string& fileName, const std::string& text) {
-  std::error_code error;
-  fs::path file(std::u8string(fileName.begin(), fileName.end()));
-  if (file.empty()) return false;
-  const auto status = fs::status(file, error);
-  if (fs::is_directory(status)) return false;
-  if (fs::exists(status)) {
-    if (!fs::is_regular_file(status)) return Put(file, text);
-    file = fs::canonical(file, error);
-    if (error) return false;
-  }
-  fs::path neighbour = file;
-  neighbour += "." + std::to_string(std::random_device()()) + ".tmp";
-  if (Put(neighbour, text)) {
-    if (fs::exists(status)) fs::permissions(neighbour, status.permissions(), error);
-    fs::rename(neighbour, file, error);
-    if (!error) return true;
-  }
-  fs::remove(neighbour, error);
-  return false;
 }
 
 }  // namespace
@@ -65,7 +30,8 @@ const host::TypeInfo& VRMLFileTraverser::Type() const {
 
 bool VRMLFileTraverser::Traverse(const std::string& fileName, const std::shared_ptr<Node>& rootNode,
                                  const std::shared_ptr<RouteList>& routeList) {
-  return Replace(fileName, Text(rootNode, routeList, {true, true}));
+  const std::filesystem::path file(std::u8string(fileName.begin(), fileName.end()));
+  return !host::ReplaceFile(file, Text(rootNode, routeList, {true, true}));
 }
 
 const host::TypeInfo& VRMLStringTraverser::Type() const {

@@ -1,0 +1,33 @@
+#include "orvane/host/SettingsStore.h"
+
+#include "orvane/host/AutomationError.h"
+#include "orvane/host/IniFile.h"
+
+namespace orvane::host {
+namespace {
+
+/// An application's name is also that of a folder.
+bool IsApplication(const std::string& name) {
+  return IniText::IsName(name) && name.front() != '.' && name.find('/') == std::string::npos;
+}
+
+IniFile FileOf(const std::string& application) {
+  auto folder = UserConfigFolder(application);
+  return IniFile(folder.empty() ? folder : folder / "settings.ini");
+}
+
+}  // namespace
+
+std::string UserSettings::Get(const std::string& application, const std::string& section,
+                              const std::string& key, const std::string& fallback) const {
+  if (!IsApplication(application)) return fallback;
+  return FileOf(application).Read().Get(section, key).value_or(fallback);
+}
+
+void UserSettings::Save(const std::string& application, const std::string& section,
+                        const std::string& key, const std::string& value) {
+  Require(IsApplication(application), "Invalid name of an application with settings");
+  FileOf(application).Update([&](IniText& ini) { ini.Set(section, key, value); });
+}
+
+}  // namespace orvane::host

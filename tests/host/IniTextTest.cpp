@@ -1,0 +1,115 @@
+/// Settings text: any value comes back, and what is not understood is left alone.
+
+#include "support/Raises.h"
+
+#include "orvane/host/IniText.h"
+#include "orvane/host/PropertyBag.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane::host {
+namespace {
+
+TEST(IniText, GivesBackEveryValue) {
+  const std::string values[] = {"",
+                                " ",
+                                "C:\\",
+                                "C:\\Größe\\a b",
+                                "http://x/?a=b#c;d",
+                                "\"",
+                                "\"a\" b",
+                                "a\"",
+                                "[s]",
+                                "=",
+                                " padded ",
+                                "two\nlines\r\n",
+                                "\t",
+                                std::string("nul\0end", 7),
+                                "\x01\x1f\x7f",
+                                "\\n",
+                                "k=v",
+                                "\xff\xfe",
+                                "x\\\"",
+                                std::string(5000, '\n')};
+  IniText ini;
+  int next = 0;
+  for (const auto& value : values) ini.Set("s", "k" + std::to_string(next++), value);
+  const IniText read(ini.Text());
+  next = 0;
+  for (const auto& value : values) EXPECT_EQ(read.Get("s", "k" + std::to_string(next++)), value);
+  EXPECT_EQ(read.Text(), ini.Text());
+}
+
+struct Line {
+  const char* text;
+  std::optional<std::string> value;
+};
+
+TEST(IniText, ReadsWhatPeopleWriteAndSkipsWhatIsDamaged) {
+  const Line lines[] = {{"k=v", "v"},
+                        {"  k\t=  v w \r", "v w"},
+                        {"k=", ""},
+                        {"k=\"a\\x41\\\"\\n\"", "aA\"\n"},
+                        {"K=v", std::nullopt},
+                        {"#k=v", std::nullopt},
+                        {"k", std::nullopt},
+                        {"k=\"open", std::nullopt},
+                        {"k=\"a\" b", std::nullopt},
+                        {"k=\"\\q\"", std::nullopt},
+                        {"k=\"\\x4\"", std::nullopt},
+                        {"k=\"\\", std::nullopt},
+                        {"k=a\x01", std::nullopt}};
+  for (const auto& [text, value] : lines) {
+    const std::string before = std::string("[other]\nk=0\n[s]\n") + text + "\n";
+    IniText ini(before);
+    EXPECT_EQ(ini.Get("s", "k"), value) << text;
+    EXPECT_EQ(ini.Text(), before);
+    ini.Set("s", "k", "new");
+    EXPECT_EQ(ini.Get("s", "k"), "new") << text;
+    EXPECT_EQ(ini.Get("other", "k"), "0") << text;
+  }
+  EXPECT_EQ(IniText("k=top\n[s]\nk=1\n[s]\nk=2").Get("s", "k"), "1");
+  EXPECT_EQ(IniText("k=top\n[s]\nk=1\n").Get("", "k"), "top");
+}
+
+TEST(IniText, RemovesASectionWithoutATrace) {
+  const std::string before = "# mine\n[a]\nk=1\n";
+  IniText ini(before);
+  ini.Set("b", "k", "2");
+  EXPECT_EQ(ini.Text(), before + "\n[b]\nk=2\n");
+  ini.Set("a", "l", "3");
+  EXPECT_EQ(ini.Text(), "# mine\n[a]\nk=1\nl=3\n\n[b]\nk=2\n");
+  ini.Remove("b");
+  ini.Remove("b");
+  EXPECT_EQ(ini.Text(), "# mine\n[a]\nk=1\nl=3\n");
+  IniText only;
+  only.Set("a", "k", "1");
+  only.Remove("a");
+  EXPECT_EQ(only.Text(), "");
+}
+
+TEST(IniText, RefusesNamesThatWouldNotComeBack) {
+  for (const char* name : {"", " a", "a ", "a=b", "[a", "a]", "\"a", "#a", ";a", "a\nb", "\t"}) {
+    IniText ini("[s]\nk=v\n");
+    EXPECT_EQ(tests::ErrorOf([&] { ini.Set("s", name, "v"); }),
+              tests::ComponentError("Invalid name of a setting"))
+        << name;
+    EXPECT_EQ(ini.Text(), "[s]\nk=v\n");
+  }
+  EXPECT_EQ(tests::ErrorOf([] { IniText().Set("a]", "k", "v"); }),
+            tests::ComponentError("Invalid name of a section of settings"));
+}
+
+TEST(PropertyBag, KeepsWhatDiffersFromItsDefault) {
+  PropertyBag bag;
+  bag.WriteProperty("ProtoPath", "..\\protos\\", "");
+  bag.WriteProperty("Caption", "", "");
+  EXPECT_EQ(bag.Text(), "ProtoPath=..\\protos\\\n");
+  const PropertyBag loaded(bag.Text());
+  EXPECT_EQ(loaded.ReadProperty("ProtoPath", ""), "..\\protos\\");
+  EXPECT_EQ(loaded.ReadProperty("Caption", "none"), "none");
+  EXPECT_EQ(PropertyBag(std::string("\0\xff[=\n]\"", 7)).ReadProperty("ProtoPath", "d"), "d");
+}
+
+}  // namespace
+}  // namespace orvane::host
