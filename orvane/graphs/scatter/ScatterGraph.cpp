@@ -12,7 +12,6 @@
 namespace orvane {
 
 using host::Int16;
-using host::Quotient;
 using host::Single;
 
 namespace {
