@@ -3,6 +3,7 @@
 
 #include "orvane/control/ObjectModel.h"
 #include "orvane/control/OrvaneScaler.h"
+#include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/graphs/grid/AreaGraph.h"
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
@@ -12,4 +13,6 @@
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
 #include "orvane/host/AutomationError.h"
+#include "orvane/host/Container.h"
+#include "orvane/host/HostServices.h"
 #include "orvane/scene/OrvaneModule.h"

@@ -1,14 +1,6 @@
 #include "orvane/control/ObjectModel.h"
 
-#include "orvane/control/OrvaneScaler.h"
-#include "orvane/graphs/grid/AreaGraph.h"
-#include "orvane/graphs/grid/ColumnGraph.h"
-#include "orvane/graphs/grid/RibbonGraph.h"
-#include "orvane/graphs/pie/PieGraph.h"
-#include "orvane/graphs/scatter/ScatterGraph.h"
-#include "orvane/graphs/surface/RCComboGraph.h"
-#include "orvane/graphs/surface/SCComboGraph.h"
-#include "orvane/graphs/surface/SurfaceGraph.h"
+#include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {
@@ -21,9 +13,23 @@ Objects Make() {
   return {std::make_shared<T>()...};
 }
 
+/// The control and its factory. Making a control sets the process-wide path of PROTO files, which
+/// is put back here.
+Objects ControlAndFactory() {
+  const std::string path = OrvaneModule::RelativeProtoPath();
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  OrvaneModule::RelativeProtoPath(path);
+  return {control, control->CreateFactory()};
+}
+
+/// One chart of each kind, as the factory makes them.
 Objects Charts() {
-  return Make<AreaGraph, ColumnGraph, PieGraph, RibbonGraph, ScatterGraph, SurfaceGraph,
-              SCComboGraph, RCComboGraph>();
+  GraphFactory factory;
+  Objects charts;
+  for (const auto& create : factory.Type().Members()) {
+    charts.push_back(factory.Call(create.name).AsObject());
+  }
+  return charts;
 }
 
 void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begin(), more.end()); }
@@ -31,7 +37,8 @@ void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begi
 }  // namespace
 
 Objects ObjectModel() {
-  Objects all = Charts();
+  Objects all = ControlAndFactory();
+  Append(all, Charts());
   Append(all,
          Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo, PieSpinAxisInfo,
               PointCollection, ScatterLegendInfo, SliderInfo, SurfaceInfo, SurfacePopupInfo,
@@ -45,8 +52,11 @@ Objects ObjectModel() {
 }
 
 std::shared_ptr<host::Object> CreateChart(std::string_view className) {
-  for (const auto& chart : Charts()) {
-    if (host::EqualNoCase(chart->Type().Name(), className)) return chart;
+  GraphFactory factory;
+  for (const auto& create : factory.Type().Members()) {
+    if (host::EqualNoCase(create.type.name, className)) {
+      return factory.Call(create.name).AsObject();
+    }
   }
   return nullptr;
 }

@@ -9,7 +9,8 @@
 
 namespace orvane {
 
-/// A fresh object of each public class, charts first, then what they are made of, nodes and fields.
+/// A fresh object of each public class: the control and its factory, charts, what they are made of,
+/// nodes and fields.
 ORVANE_API std::vector<std::shared_ptr<host::Object>> ObjectModel();
 
 /// A new chart of class `className`, such as "AreaGraph", in any case; nullptr when there is none.

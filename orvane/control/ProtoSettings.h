@@ -1,0 +1,25 @@
+/// The two settings that say where PROTO files and worlds are kept.
+#pragma once
+
+#include "orvane/host/Export.h"
+
+#include <string>
+
+namespace orvane::ProtoSettings {
+
+/// What each setting reads as where it was never saved.
+inline constexpr const char* kNoDirectory = "C:\\";
+
+/// The folder of the PROTO files, or the URL under which they are published; `fallback` where it
+/// was never saved.
+ORVANE_API std::string ProtoDir(const std::string& fallback = kNoDirectory);
+ORVANE_API void SaveProtoDir(const std::string& directory);
+
+/// The folder that worlds are written to; empty where the PROTO files have a URL.
+ORVANE_API std::string OutputDir();
+ORVANE_API void SaveOutputDir(const std::string& directory);
+
+/// Whether a ProtoDir is a URL: it begins with "HTTP" in any case.
+ORVANE_API bool IsUrl(const std::string& protoDir);
+
+}  // namespace orvane::ProtoSettings

@@ -1,0 +1,102 @@
+/// Relative paths between folders, and what cannot have one.
+
+#include "support/Raises.h"
+
+#include "orvane/control/MakeRelativePath.h"
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+struct Way {
+  const char* source;
+  const char* dest;
+  const char* path;
+};
+
+constexpr Way kWays[] = {
+    {R"(C:\Out\)", R"(C:\Protos\)", R"(..\Protos\)"},
+    {R"(C:\Web\Charts\2024\)", R"(C:\Web\Protos\)", R"(..\..\Protos\)"},
+    {R"(C:\A)", R"(C:\A\P)", R"(P\)"},
+    {R"(C:\A\B\)", R"(C:\A\)", R"(..\)"},
+    {R"(C:\A\B\)", R"(C:\A\B\)", ""},
+    {R"(C:\a\)", R"(C:\A\p\)", R"(..\A\p\)"},
+    {R"(C:\Prot\)", R"(C:\Protos\)", R"(..\Protos\)"},
+    // Root directories, with and without their backslash.
+    {R"(C:\)", R"(C:\)", ""},
+    {R"(C:)", R"(C:\)", ""},
+    {R"(C:\)", R"(C:)", ""},
+    {R"(C:)", R"(C:)", ""},
+    {R"(C:\)", R"(C:\A)", R"(A\)"},
+    {R"(C:\)", R"(C:\A\B\C)", R"(A\B\C\)"},
+    {R"(C:\A)", R"(C:\)", R"(..\)"},
+    {R"(C:\A\B\C)", R"(C:)", R"(..\..\..\)"},
+    // Up, down, and both.
+    {R"(C:\A)", R"(C:\A\)", ""},
+    {R"(C:\A\)", R"(C:\A)", ""},
+    {R"(C:\A\B\C)", R"(C:\A)", R"(..\..\)"},
+    {R"(C:\A\B)", R"(C:\A\C)", R"(..\C\)"},
+    {R"(C:\A\B\C)", R"(C:\A\D\E\F)", R"(..\..\D\E\F\)"},
+    {R"(Z:\1\2\3\4\5)", R"(Z:\1\2\x)", R"(..\..\..\x\)"},
+    {R"(C:\A\B)", R"(C:\B\A)", R"(..\..\B\A\)"},
+    {R"(C:\A\B\A)", R"(C:\A\B)", R"(..\)"},
+    // Segments that are prefixes of others.
+    {R"(C:\Protos\)", R"(C:\Prot\)", R"(..\Prot\)"},
+    {R"(C:\Protos)", R"(C:\Prot)", R"(..\Prot\)"},
+    {R"(C:\Web\Prot)", R"(C:\Web\Protos\Sub)", R"(..\Protos\Sub\)"},
+    {R"(C:\A\AA\AAA)", R"(C:\A\AA\AAAA)", R"(..\AAAA\)"},
+    {R"(C:\AB)", R"(C:\A\B)", R"(..\A\B\)"},
+    {R"(C:\A\B)", R"(C:\AB)", R"(..\..\AB\)"},
+    {R"(C:\A.B)", R"(C:\A)", R"(..\A\)"},
+    // Mixed case.
+    {R"(C:\web\charts)", R"(C:\Web\charts)", R"(..\..\Web\charts\)"},
+    {R"(C:\Web\Charts)", R"(C:\Web\charts)", R"(..\charts\)"},
+    {R"(c:\A)", R"(c:\a)", R"(..\a\)"},
+    // Other characters; only the backslash parts segments, and no segment has a meaning.
+    {R"(C:\My Files\Charts)", R"(C:\My Files\Proto Files)", R"(..\Proto Files\)"},
+    {R"(C:\Größe\x)", R"(C:\Größe\ÿ)", R"(..\ÿ\)"},
+    {R"(C:\a/b)", R"(C:\a/c)", R"(..\a/c\)"},
+    {R"(C:\A\..)", R"(C:\B)", R"(..\..\B\)"},
+    {R"(C:\A\\B)", R"(C:\A\\C)", R"(..\C\)"},
+    {R"(C:\A\B\\)", R"(C:\A\B)", ""},
+    {R"(C:A)", R"(C:A\B)", R"(B\)"},
+    {R"(C:A)", R"(C:B)", R"(..\C:B\)"},
+    {R"(1:\A)", R"(1:\B)", R"(..\B\)"},
+};
+
+TEST(MakeRelativePath, LeadsFromOneFolderToTheOther) {
+  for (const auto& [source, dest, path] : kWays) {
+    EXPECT_EQ(MakeRelativePath(source, dest), path) << source << " to " << dest;
+  }
+}
+
+TEST(MakeRelativePath, RefusesWhatHasNoDriveOrAnother) {
+  const char* const source = "Invalid source drive";
+  const char* const dest = "Invalid destination drive";
+  const char* const match = "Source and destination drives must match";
+  const Way refused[] = {
+      {"", R"(C:\)", source},
+      {R"(C:\)", "", dest},
+      {"", "", source},
+      {"C", R"(C:\)", source},
+      {R"(C:\)", "C", dest},
+      {":", R"(C:\)", source},
+      {R"(C:\)", R"(\)", dest},
+      {R"(\\server\share)", R"(C:\)", source},
+      {R"(C:\)", R"(\\server\share)", dest},
+      {"/srv/out", "/srv/protos", source},
+      {R"( C:\)", R"(C:\)", source},
+      {R"(CC:\)", R"(C:\)", source},
+      {R"(C:\)", R"(D:\)", match},
+      {R"(C:\A)", R"(c:\A)", match},
+  };
+  for (const auto& [from, to, reason] : refused) {
+    EXPECT_EQ(tests::ErrorOf([&] { MakeRelativePath(from, to); }),
+              tests::ComponentError(std::string("Error making relative path : ") + reason))
+        << from << " to " << to;
+  }
+}
+
+}  // namespace
+}  // namespace orvane

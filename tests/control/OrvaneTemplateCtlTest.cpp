@@ -1,0 +1,199 @@
+/// The control: what its path of PROTO files starts from, what it accepts, and what it hands out.
+
+#include "support/HostRecorder.h"
+#include "support/Raises.h"
+
+#include "orvane/control/OrvaneTemplateCtl.h"
+#include "orvane/host/Container.h"
+#include "orvane/scene/OrvaneModule.h"
+
+#include <optional>
+#include <set>
+
+#include <gtest/gtest.h>
+
+namespace orvane {
+namespace {
+
+class ControlTest : public testing::Test {
+ protected:
+  void SetUp() override { OrvaneModule::RelativeProtoPath("before/"); }
+  void TearDown() override { OrvaneModule::RelativeProtoPath(""); }
+
+  tests::HostRecorder m_host;
+};
+
+struct Start {
+  std::optional<std::string> outputDir;
+  std::optional<std::string> protoDir;
+  std::string initialised;  ///< RelativeProtoPath once the control is made
+  std::string placed;       ///< and once it is placed as a new one.
+};
+
+TEST_F(ControlTest, StartsFromTheUsersSettings) {
+  const Start starts[] = {
+      {{}, {}, "", ""},
+      {R"(C:\Out\)", R"(C:\Protos\)", R"(C:\Protos\)", R"(..\Protos\)"},
+      {R"(C:\Out)", R"(C:\Out\P)", R"(C:\Out\P)", R"(P\)"},
+      {R"(C:\Out)", R"(C:\Out)", R"(C:\Out)", ""},
+      {R"(C:\Out)", {}, "", R"(..\)"},
+      {{}, R"(C:\Protos)", R"(C:\Protos)", R"(Protos\)"},
+      {"", "http://x/p/", "http://x/p/", "http://x/p/"},
+      {R"(C:\Out)", "HtTpS://x/p", "HtTpS://x/p", "HtTpS://x/p"},
+      {"", "http", "http", "http"},
+      {"", "htt", "htt", ""},
+      {R"(C:\Out)", R"(D:\Protos)", R"(D:\Protos)", ""},
+      {R"(\\server\out)", R"(C:\Protos)", R"(C:\Protos)", ""},
+      {"", "", "", ""},
+  };
+  for (const auto& [outputDir, protoDir, initialised, placed] : starts) {
+    m_host.settings->saved.clear();
+    if (outputDir) m_host.settings->saved["NVOCX/ProtoPath/OutputDir"] = *outputDir;
+    if (protoDir) m_host.settings->saved["NVOCX/ProtoPath/ProtoDir"] = *protoDir;
+    const std::string what = outputDir.value_or("-") + " " + protoDir.value_or("-");
+    const auto saved = m_host.settings->saved;
+    const auto control = std::make_shared<OrvaneTemplateCtl>();
+    EXPECT_EQ(OrvaneModule::RelativeProtoPath(), initialised) << what;
+    host::Container().PlaceNew(control);
+    EXPECT_EQ(control->RelativeProtoPath(), placed) << what;
+    EXPECT_EQ(m_host.settings->saved, saved) << "the control only reads them";
+  }
+  EXPECT_TRUE(m_host.messages->shown.empty());
+}
+
+TEST_F(ControlTest, IsPlacedWithAnEmptyPathWhenTheSettingsCannotBeRead) {
+  struct Broken final : host::SettingsStore {
+    std::string Get(const std::string&, const std::string&, const std::string& key,
+                    const std::string& fallback) const override {
+      host::Require(key != broken, "broken");
+      return fallback;
+    }
+    void Save(const std::string&, const std::string&, const std::string&,
+              const std::string&) override {}
+    std::string broken;
+  };
+  const auto store = std::make_shared<Broken>();
+  host::Services().settings.Use(store);
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  for (const char* key : {"OutputDir", "ProtoDir"}) {
+    store->broken = key;
+    OrvaneModule::RelativeProtoPath("before/");
+    control->InitProperties();
+    EXPECT_EQ(control->RelativeProtoPath(), "") << key;
+  }
+}
+
+struct Let {
+  const char* value;
+  const char* stored;  ///< nullptr for a value that is refused.
+};
+
+TEST_F(ControlTest, TakesAPathThatEndsInASeparator) {
+  const Let lets[] = {{"  ../protos/ ", "../protos/"},
+                      {R"(..\protos\)", R"(..\protos\)"},
+                      {"", ""},
+                      {"   ", ""},
+                      {"/", "/"},
+                      {R"(\)", R"(\)"},
+                      {"http://x/p/", "http://x/p/"},
+                      {"../protos", nullptr},
+                      {"a", nullptr},
+                      {"../protos/.", nullptr},
+                      {"../protos/\t", nullptr},
+                      {"../protos\"", nullptr}};
+  for (const auto& [value, stored] : lets) {
+    host::Container form;
+    const auto control = std::make_shared<OrvaneTemplateCtl>();
+    form.PlaceSaved(control, host::PropertyBag("ProtoPath=old/"));
+    std::vector<std::string> changed;
+    const auto heard =
+        control->PropertyChanged.Connect([&](const std::string& name) { changed.push_back(name); });
+    m_host.messages->shown.clear();
+    control->Let("relativeprotopath", value);
+    EXPECT_EQ(control->RelativeProtoPath(), stored == nullptr ? "old/" : stored) << value;
+    EXPECT_EQ(form.NeedsSaving(control), stored != nullptr) << value;
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(changed, stored == nullptr ? Texts() : Texts{"RelativeProtoPath"});
+    EXPECT_EQ(m_host.messages->shown,
+              stored != nullptr
+                  ? Texts()
+                  : Texts{"48 Orvane Template OCX: The proto relative path must end with either a "
+                          "/ or \\."})
+        << value;
+  }
+}
+
+TEST_F(ControlTest, KeepsItsPathInThePropertyBag) {
+  host::Container form;
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  form.PlaceNew(control);
+  EXPECT_EQ(form.Save(control).Text(), "") << "the default is not kept";
+  control->RelativeProtoPath(R"(..\protos\)");
+  const auto bag = form.Save(control);
+  EXPECT_EQ(bag.ReadProperty("ProtoPath", ""), R"(..\protos\)");
+
+  m_host.Set("C:\\", "http://settings/");
+  const auto loaded = std::make_shared<OrvaneTemplateCtl>();
+  form.PlaceSaved(loaded, bag);
+  EXPECT_EQ(loaded->RelativeProtoPath(), R"(..\protos\)") << "what was saved, not the settings";
+  form.PlaceSaved(std::make_shared<OrvaneTemplateCtl>(), host::PropertyBag());
+  EXPECT_EQ(control->RelativeProtoPath(), "") << "the last control speaks for the process";
+}
+
+TEST_F(ControlTest, StaysAtItsSizeWithItsPicture) {
+  host::Container form;
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  form.PlaceNew(control);
+  EXPECT_EQ(control->Size(), (host::Extent{615, 615}));
+  for (const host::Extent size : {host::Extent{0, 0}, {1, 9999}, {-5, 615}}) {
+    form.Resize(control, size);
+    EXPECT_EQ(control->Size(), (host::Extent{615, 615}));
+  }
+  const auto& face = control->Face();
+  EXPECT_EQ(face.width, 42);
+  EXPECT_EQ(face.height, 41);
+  ASSERT_EQ(face.pixels.size(), 42U * 41U);
+  EXPECT_EQ(std::set<std::int32_t>(face.pixels.begin(), face.pixels.end()).count(0), 0U)
+      << "a pixel without a colour";
+  EXPECT_EQ(face.pixels[25 * 42 + 10], 0xD08F2E) << "blue has the high byte";
+}
+
+TEST_F(ControlTest, HandsOutOneFactoryAndManyScalers) {
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  EXPECT_EQ(control->CreateFactory(), control->CreateFactory());
+  EXPECT_NE(control->CreateFactory(), std::make_shared<OrvaneTemplateCtl>()->CreateFactory());
+  const auto scaler = control->CreateScaler();
+  EXPECT_NE(scaler, control->CreateScaler());
+  scaler->ToMax(5);
+  EXPECT_EQ(control->CreateScaler()->ToMax(), 1);
+
+  const auto& type = control->Type();
+  const char* const slots[] = {"CreateFactory", "CreateScaler", "RelativeProtoPath"};
+  ASSERT_EQ(type.Members().size(), std::size(slots));
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(type.IdOf(slots[i]), i);
+}
+
+TEST_F(ControlTest, MakesFreshChartsWithThePathOfThatMoment) {
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  const auto factory = control->CreateFactory();
+  for (const auto& create : factory->Type().Members()) {
+    control->RelativeProtoPath("one/");
+    const auto first = factory->Call(create.name).AsObject();
+    control->RelativeProtoPath("two/");
+    const auto second = factory->Call(create.name).AsObject();
+    EXPECT_EQ("Create" + first->Type().Name(), create.name);
+    EXPECT_NE(first, second);
+    EXPECT_EQ(first.use_count(), 1) << "the factory keeps none";
+    first->Get("TitleProps").AsObject()->Let("Text", "first");
+    const auto text = [](const auto& chart) {
+      return *chart->Call("ExportToString", {true, true}).template If<std::string>();
+    };
+    EXPECT_NE(text(first).find("\"one/VR_GRAPH.wrl#"), std::string::npos) << create.name;
+    EXPECT_EQ(text(first).find("\"two/"), std::string::npos) << create.name;
+    EXPECT_NE(text(second).find("\"two/VR_GRAPH.wrl#"), std::string::npos) << create.name;
+    EXPECT_EQ(text(second).find("\"first\""), std::string::npos) << create.name;
+  }
+}
+
+}  // namespace
+}  // namespace orvane
