@@ -41,16 +41,6 @@ fs::path FolderIn(const char* variable) {
 
 }  // namespace
 
-fs::path UserConfigFolder(const std::string& program) {
-  fs::path folder = FolderIn("XDG_CONFIG_HOME");
-  if (folder.empty()) {
-    folder = FolderIn("HOME");
-    if (folder.empty()) return {};
-    folder /= ".config";
-  }
-  return folder / program;
-}
-
 IniText IniFile::Read() const { return IniText(TextOf(m_file).value_or("")); }
 
 void IniFile::Update(const std::function<void(IniText&)>& change) const {
@@ -76,6 +66,12 @@ void IniFile::Update(const std::function<void(IniText&)>& change) const {
   } catch (const std::system_error& error) {
     RaiseFileAccess(m_file, error.code().message());
   }
+}
+
+IniFile UserIniFile(const std::string& program, const std::string& name) {
+  fs::path folder = FolderIn("XDG_CONFIG_HOME");
+  if (folder.empty() && !FolderIn("HOME").empty()) folder = FolderIn("HOME") / ".config";
+  return IniFile(folder.empty() ? folder : folder / program / name);
 }
 
 }  // namespace orvane::host

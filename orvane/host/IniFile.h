@@ -5,13 +5,10 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
+#include <utility>
 
 namespace orvane::host {
-
-/// The folder for the files of `program` in the user's configuration folder, which is
-/// $XDG_CONFIG_HOME or, where that is not an absolute path, $HOME/.config. Empty when there is
-/// neither.
-ORVANE_API std::filesystem::path UserConfigFolder(const std::string& program);
 
 /// One file in a folder of its own or shared with others of its kind.
 class ORVANE_API IniFile {
@@ -31,5 +28,10 @@ class ORVANE_API IniFile {
  private:
   std::filesystem::path m_file;
 };
+
+/// The file `name` of `program` in the user's configuration folder, which is $XDG_CONFIG_HOME or,
+/// where that is not an absolute path, $HOME/.config. Where there is neither, a file that does not
+/// exist and cannot be written.
+ORVANE_API IniFile UserIniFile(const std::string& program, const std::string& name);
 
 }  // namespace orvane::host

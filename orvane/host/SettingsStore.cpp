@@ -11,10 +11,7 @@ bool IsApplication(const std::string& name) {
   return IniText::IsName(name) && name.front() != '.' && name.find('/') == std::string::npos;
 }
 
-IniFile FileOf(const std::string& application) {
-  auto folder = UserConfigFolder(application);
-  return IniFile(folder.empty() ? folder : folder / "settings.ini");
-}
+IniFile FileOf(const std::string& application) { return UserIniFile(application, "settings.ini"); }
 
 }  // namespace
 

@@ -9,8 +9,8 @@ endfunction()
 file(REMOVE_RECURSE ${WORK})
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
 run(${CMAKE_COMMAND} -S ${SOURCE}/tests/package -B ${WORK}/build -G Ninja
-    -DCMAKE_PREFIX_PATH=${WORK}/prefix -DCMAKE_CXX_FLAGS=${FLAGS}
-    -DFIRST_CHART=${SOURCE}/examples/hosts/first_chart.cpp)
+    -DCMAKE_PREFIX_PATH=${WORK}/prefix -DCMAKE_C_FLAGS=${FLAGS} -DCMAKE_CXX_FLAGS=${FLAGS}
+    -DHOSTS=${SOURCE}/examples/hosts)
 run(${CMAKE_COMMAND} --build ${WORK}/build)
 run(${WORK}/build/consumer ${WORK}/chart.wrl)
 if(NOT EXISTS ${WORK}/chart.wrl OR NOT EXISTS ${WORK}/prefix/share/orvane/protos/VR_GRAPH.wrl)

@@ -1,0 +1,111 @@
+/// What crosses the C interface beyond the values of charts: rows of numbers, objects as arguments,
+/// and failures that are no automation errors.
+
+#include "orvane/host/ComponentObjects.h"
+#include "orvane/host/Describe.h"
+
+#include <new>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+namespace orvane::host {
+
+template <>
+struct Automation<Value::Numbers> {
+  static ValueType Type() { return {"Numbers", nullptr}; }
+  static Value::Numbers From(const Value& value, const Place&) {
+    return *value.If<Value::Numbers>();
+  }
+  static Value To(Value::Numbers numbers) { return numbers; }
+};
+
+namespace {
+
+class Sample final : public Object {
+ public:
+  static constexpr const char* kClassName = "Sample";
+  const TypeInfo& Type() const override {
+    static const TypeInfo type = Describe<Sample>("For tests.")
+                                     .Method("Same", &Sample::Same, {"numbers"}, {"The same"})
+                                     .Method("Friend", &Sample::Friend, {"other"}, {"The same"})
+                                     .Method("Fail", &Sample::Fail, {"how"}, {"Throws"});
+    return type;
+  }
+
+  Value::Numbers Same(Value::Numbers numbers) const { return numbers; }
+  std::shared_ptr<Sample> Friend(std::shared_ptr<Sample> other) const { return other; }
+  void Fail(std::int32_t how) const {
+    if (how == 0) throw std::bad_alloc();
+    if (how == 1) throw std::runtime_error("broken");
+    throw how;
+  }
+};
+
+class Component : public testing::Test {
+ protected:
+  void SetUp() override {
+    orvane_class* factory =
+        HandOutClass([]() -> std::shared_ptr<Object> { return std::make_shared<Sample>(); });
+    ASSERT_EQ(factory->calls->CreateInstance(factory, &m_object, nullptr), ORVANE_OK);
+    factory->calls->Release(factory);
+  }
+  void TearDown() override {
+    EXPECT_EQ(m_object->calls->Release(m_object), 0U);
+    EXPECT_FALSE(IsAnythingHeld());
+  }
+  orvane_status Call(std::int32_t id, orvane_value argument) {
+    return m_object->calls->Invoke(m_object, id, ORVANE_CALL, &argument, 1, &m_result, &m_error);
+  }
+
+  orvane_object* m_object = nullptr;
+  orvane_value m_result{};
+  orvane_error m_error{};
+};
+
+TEST_F(Component, PassesRowsOfNumbers) {
+  const double numbers[] = {1.5, -2, 1e300};
+  orvane_value row{ORVANE_NUMBERS, 3, {}};
+  row.as.numbers = numbers;
+  ASSERT_EQ(Call(0, row), ORVANE_OK);
+  ASSERT_EQ(m_result.count, 3U);
+  EXPECT_NE(m_result.as.numbers, numbers);
+  EXPECT_TRUE(std::equal(numbers, numbers + 3, m_result.as.numbers));
+  m_object->calls->ClearValue(&m_result);
+  EXPECT_EQ(m_result.type, ORVANE_EMPTY);
+  EXPECT_EQ(Call(0, {ORVANE_NUMBERS, 0, {}}), ORVANE_OK);
+  EXPECT_EQ(m_result.count, 0U);
+  m_object->calls->ClearValue(&m_result);
+  EXPECT_EQ(Call(0, {ORVANE_NUMBERS, 3, {}}), ORVANE_ERROR_POINTER);
+}
+
+TEST_F(Component, PassesObjectsAndNoObject) {
+  orvane_value other{ORVANE_OBJECT, 0, {}};
+  other.as.object = m_object;
+  ASSERT_EQ(Call(1, other), ORVANE_OK);
+  EXPECT_EQ(m_result.as.object, m_object);
+  EXPECT_EQ(m_object->calls->AddRef(m_object), 3U) << "the result has a reference of its own";
+  m_object->calls->Release(m_object);
+  m_object->calls->ClearValue(&m_result);
+  other.as.object = nullptr;
+  ASSERT_EQ(Call(1, other), ORVANE_OK);
+  EXPECT_EQ(m_result.type, ORVANE_OBJECT);
+  EXPECT_EQ(m_result.as.object, nullptr);
+}
+
+TEST_F(Component, LetsNoExceptionOut) {
+  const std::pair<orvane_status, const char*> failures[] = {
+      {ORVANE_ERROR_MEMORY, "Out of memory"},
+      {ORVANE_ERROR_FAILED, "broken"},
+      {ORVANE_ERROR_FAILED, "Unknown failure"}};
+  for (std::int32_t how = 0; how < 3; ++how) {
+    orvane_value argument{ORVANE_INT32, 0, {}};
+    argument.as.int32 = how;
+    EXPECT_EQ(Call(2, argument), failures[how].first);
+    EXPECT_EQ(m_error.number, failures[how].first);
+    EXPECT_STREQ(m_error.description, failures[how].second);
+  }
+}
+
+}  // namespace
+}  // namespace orvane::host
