@@ -21,9 +21,10 @@ bool HasDrive(const std::string& folder) { return folder.size() >= 2 && folder[1
 fs::path SingleDrive::PathOf(const std::string& shown) const {
   if (!HasDrive(shown)) return shown;
   if (shown[0] != 'C' && shown[0] != 'c') RaisePathNotFound(shown);
-  std::string path = "/" + shown.substr(2);
+  std::string path = shown.substr(2);
   std::ranges::replace(path, '\\', '/');
-  return fs::path(path).lexically_normal();
+  path.erase(0, path.find_first_not_of('/'));
+  return fs::path("/" + path).lexically_normal();
 }
 
 std::string SingleDrive::Shown(const std::string& folder) const {

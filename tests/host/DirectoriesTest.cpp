@@ -48,6 +48,7 @@ TEST_F(DirectoryLists, ShowAFolderByDriveAndBackslashes) {
   for (const auto& [folder, expected] : shown) {
     EXPECT_EQ(m_drive.Shown(folder), expected) << folder;
     EXPECT_TRUE(fs::equivalent(m_drive.PathOf(expected), m_drive.PathOf(folder))) << folder;
+    EXPECT_FALSE(m_drive.PathOf(expected).string().starts_with("//")) << folder;
   }
   const fs::path current = fs::current_path();
   fs::current_path(m_folder.Path() / "b");

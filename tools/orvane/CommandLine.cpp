@@ -5,13 +5,13 @@
 #include "Output.h"
 #include "PieChart.h"
 #include "ProtoFiles.h"
+#include "ProtoLocation.h"
 #include "SeriesCharts.h"
 #include "Source.h"
 #include "Table.h"
 #include "TypesReference.h"
 
 #include "orvane/host/AutomationError.h"
-#include "orvane/scene/OrvaneModule.h"
 
 #include <filesystem>
 #include <functional>
@@ -37,7 +37,7 @@ constexpr int kBadUsage = 2;
 /// Where a world goes and where it looks for its PROTO files.
 struct WorldOutput {
   std::string path;                        ///< "-" for standard output.
-  std::optional<std::string> protoPrefix;  ///< Left out: the PROTO files go beside the world.
+  std::optional<std::string> protoPrefix;  ///< Left out: as the user's settings say.
 };
 
 /// What the commands that chart a table are given.
@@ -59,14 +59,16 @@ std::vector<OutputFile> ProtosIn(const fs::path& folder) {
 /// Makes a world with `makeWorld` and writes it. No file is touched before all is made.
 void WriteWorld(const WorldOutput& output, std::ostream& out,
                 const std::function<std::string()>& makeWorld) {
-  OrvaneModule::RelativeProtoPath(output.protoPrefix.value_or(""));
+  const fs::path path = output.path;
+  std::optional<fs::path> folder;
+  if (path != "-") folder = fs::absolute(path).parent_path();
+  const bool isBesideProtos = LocateProtos(output.protoPrefix, folder);
   const std::string world = makeWorld();
-  if (output.path == "-") {
+  if (!folder) {
     out << world;
     return;
   }
-  const fs::path path = output.path;
-  auto files = output.protoPrefix ? std::vector<OutputFile>() : ProtosIn(path.parent_path());
+  auto files = isBesideProtos ? ProtosIn(path.parent_path()) : std::vector<OutputFile>();
   files.push_back({path, world});
   WriteFiles(files);
 }
@@ -88,7 +90,7 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
   command
       .add_option("--proto-prefix", output.protoPrefix,
                   "Folder or URL where the world finds its PROTO files, ending in / or \\;"
-                  " left out, they are written beside the world")
+                  " left out, they are written beside the world, or are where the settings say")
       ->type_name("PREFIX")
       ->check(CLI::Validator(endsInSeparator, ""));
 }
@@ -248,6 +250,23 @@ void AddProtosCommand(CLI::App& app) {
   command.callback([folder] { WriteProtos(*folder); });
 }
 
+void AddSettingsCommand(CLI::App& app, std::ostream& out) {
+  CLI::App& command =
+      *app.add_subcommand("settings", "Show or set where worlds find their PROTO files");
+  const auto choice = std::make_shared<ProtoChoice>();
+  command
+      .add_option(
+          "--proto-dir", choice->protoDir,
+          "Folder of the PROTO files, or the URL under which they are published, ending in /")
+      ->type_name("DIR|URL");
+  command.add_option("--output-dir", choice->outputDir, "Folder that worlds are written to")
+      ->type_name("DIR");
+  command.callback([choice, &out] {
+    if (choice->protoDir || choice->outputDir) ChooseProtos(*choice);
+    ShowProtoSettings(out);
+  });
+}
+
 void AddTypesCommand(CLI::App& app, std::ostream& out) {
   CLI::App& command = *app.add_subcommand("types", "Print the object model as Markdown");
   const auto className = std::make_shared<std::string>();
@@ -280,6 +299,7 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   AddPieCommand(charts, out);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
+  AddSettingsCommand(app, out);
   AddTypesCommand(app, out);
 
   try {
