@@ -16,6 +16,7 @@ Objects Make() {
 /// The control and its factory. Making a control sets the process-wide path of PROTO files, which
 /// is put back here.
 Objects ControlAndFactory() {
+  // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it changes in between.
   const std::string path = OrvaneModule::RelativeProtoPath();
   const auto control = std::make_shared<OrvaneTemplateCtl>();
   OrvaneModule::RelativeProtoPath(path);

@@ -255,8 +255,4 @@ orvane_status StatusOfException(orvane_error* error) noexcept {
   }
 }
 
-void RequireForC(bool accepted, orvane_status number, const char* description) {
-  if (!accepted) throw AutomationError(static_cast<ErrorNumber>(number), description);
-}
-
 }  // namespace orvane::host

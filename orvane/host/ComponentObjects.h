@@ -1,6 +1,7 @@
 /// Automation objects as component.h shows them to programs in other languages.
 #pragma once
 
+#include "orvane/host/AutomationError.h"
 #include "orvane/host/Export.h"
 #include "orvane/host/Object.h"
 #include "orvane/host/component.h"
@@ -30,6 +31,8 @@ orvane_status Guarded(orvane_error* error, const F& action) noexcept {
 }
 
 /// Raises the error `number` of component.h unless `accepted`.
-ORVANE_API void RequireForC(bool accepted, orvane_status number, const char* description);
+inline void RequireForC(bool accepted, orvane_status number, const char* description) {
+  if (!accepted) throw AutomationError(static_cast<ErrorNumber>(number), description);
+}
 
 }  // namespace orvane::host

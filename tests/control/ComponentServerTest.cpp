@@ -202,10 +202,10 @@ TEST_F(Server, PassesValuesOfEveryType) {
 
 struct Refused {
   const char* member;
-  int32_t access;
   std::vector<orvane_value> arguments;
-  orvane_status status;
   std::string description;
+  int32_t access;
+  orvane_status status;
 };
 
 TEST_F(Server, TellsWhatIsWrongAndChangesNothing) {
@@ -217,19 +217,19 @@ TEST_F(Server, TellsWhatIsWrongAndChangesNothing) {
   orvane_value noText = Text("");
   noText.as.string = nullptr;
   const Refused refused[] = {
-      {"Width", ORVANE_LET, {Int(0)}, 0x80040000, "The graph must be wider than 0"},
-      {"Width", ORVANE_LET, {}, 0x8002000E, "GridInfo.Width takes 1 argument(s), got 0"},
-      {"Width", ORVANE_GET, {Int(1)}, 0x8002000E, "GridInfo.Width takes 0 argument(s), got 1"},
+      {"Width", {Int(0)}, "The graph must be wider than 0", ORVANE_LET, 0x80040000},
+      {"Width", {}, "GridInfo.Width takes 1 argument(s), got 0", ORVANE_LET, 0x8002000E},
+      {"Width", {Int(1)}, "GridInfo.Width takes 0 argument(s), got 1", ORVANE_GET, 0x8002000E},
       {"Width",
-       ORVANE_LET,
        {Text("wide")},
-       0x80020005,
-       "Type mismatch: GridInfo.Width expects a number, got String \"wide\""},
-      {"Width", 3, {}, ORVANE_ERROR_ARGUMENT, "There is no access 3"},
-      {"Width", ORVANE_LET, {strange}, ORVANE_ERROR_ARGUMENT, "There is no value of type 99"},
-      {"Width", ORVANE_LET, {noText}, ORVANE_ERROR_POINTER, "The text of an argument is NULL"},
+       "Type mismatch: GridInfo.Width expects a number, got String \"wide\"",
+       ORVANE_LET,
+       0x80020005},
+      {"Width", {}, "There is no access 3", 3, ORVANE_ERROR_ARGUMENT},
+      {"Width", {strange}, "There is no value of type 99", ORVANE_LET, ORVANE_ERROR_ARGUMENT},
+      {"Width", {noText}, "The text of an argument is NULL", ORVANE_LET, ORVANE_ERROR_POINTER},
   };
-  for (const auto& [member, access, arguments, status, description] : refused) {
+  for (const auto& [member, arguments, description, access, status] : refused) {
     orvane_value result = Int(7);
     EXPECT_EQ(Invoke(grid.Object(), member, access, arguments, &result), status) << description;
     EXPECT_EQ(m_error.number, status);

@@ -12,7 +12,7 @@ namespace {
 struct Way {
   const char* source;
   const char* dest;
-  const char* path;
+  const char* path;  ///< Or why there is none.
 };
 
 constexpr Way kWays[] = {
@@ -91,10 +91,10 @@ TEST(MakeRelativePath, RefusesWhatHasNoDriveOrAnother) {
       {R"(C:\)", R"(D:\)", match},
       {R"(C:\A)", R"(c:\A)", match},
   };
-  for (const auto& [from, to, reason] : refused) {
-    EXPECT_EQ(tests::ErrorOf([&] { MakeRelativePath(from, to); }),
-              tests::ComponentError(std::string("Error making relative path : ") + reason))
-        << from << " to " << to;
+  for (const Way& way : refused) {
+    EXPECT_EQ(tests::ErrorOf([&] { MakeRelativePath(way.source, way.dest); }),
+              tests::ComponentError(std::string("Error making relative path : ") + way.path))
+        << way.source << " to " << way.dest;
   }
 }
 
