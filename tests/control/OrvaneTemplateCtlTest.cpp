@@ -61,28 +61,6 @@ TEST_F(ControlTest, StartsFromTheUsersSettings) {
   EXPECT_TRUE(m_host.messages->shown.empty());
 }
 
-TEST_F(ControlTest, IsPlacedWithAnEmptyPathWhenTheSettingsCannotBeRead) {
-  struct Broken final : host::SettingsStore {
-    std::string Get(const std::string&, const std::string&, const std::string& key,
-                    const std::string& fallback) const override {
-      host::Require(key != broken, "broken");
-      return fallback;
-    }
-    void Save(const std::string&, const std::string&, const std::string&,
-              const std::string&) override {}
-    std::string broken;
-  };
-  const auto store = std::make_shared<Broken>();
-  host::Services().settings.Use(store);
-  const auto control = std::make_shared<OrvaneTemplateCtl>();
-  for (const char* key : {"OutputDir", "ProtoDir"}) {
-    store->broken = key;
-    OrvaneModule::RelativeProtoPath("before/");
-    control->InitProperties();
-    EXPECT_EQ(control->RelativeProtoPath(), "") << key;
-  }
-}
-
 struct Let {
   const char* value;
   const char* stored;  ///< nullptr for a value that is refused.

@@ -156,17 +156,6 @@ TEST_F(Settings, StayInTheirFolderWhateverTheNames) {
   EXPECT_TRUE(fs::is_empty(m_folder.Path()));
 }
 
-TEST_F(Settings, FollowALinkToTheFile) {
-  const auto real = m_folder.Path() / "dotfile";
-  std::ofstream(real) << "[Section]\nKey=linked\n";
-  fs::create_directories(m_file.parent_path());
-  fs::create_symlink(real, m_file);
-  EXPECT_EQ(Get("Key"), "linked");
-  Save("Key", "changed");
-  EXPECT_TRUE(fs::is_symlink(m_file));
-  EXPECT_EQ(FileText(real), "[Section]\nKey=changed\n");
-}
-
 /// Saves `count` settings of its own, and reads whole values of the others meanwhile.
 bool SaveMany(const std::string& who, int count) {
   UserSettings store;
