@@ -151,13 +151,23 @@ class View {
     await this.still();
   }
 
-  async click(place) {
+  // Presses the pointer's button and keeps it down: what moves then is dragged.
+  async press(place) {
     await this.move(place);
     await this.page.mouse.down();
     await this.page.waitForTimeout(REST);
+    await this.still();
+  }
+
+  async release() {
     await this.page.mouse.up();
     await this.page.waitForTimeout(2 * REST);
     await this.still();
+  }
+
+  async click(place) {
+    await this.press(place);
+    await this.release();
   }
 
   // Calls `task` in the page with the tools of `sceneTools` and `argument`.
