@@ -5,6 +5,7 @@
 #include "orvane/host/Describe.h"
 #include "orvane/scene/frmMain.h"
 
+#include <algorithm>
 #include <string>
 
 namespace orvane {
@@ -72,7 +73,7 @@ std::int16_t SeriesToggleInfo::Count() const {
 
 void SeriesToggleInfo::Resize(float height, float spacing) {
   // Raises Overflow before anything moves.
-  (void)Single(Count() * (static_cast<double>(height) + spacing));
+  (void)Single(std::max<int>(Count(), 1) * (static_cast<double>(height) + spacing));
   m_height = height;
   m_spacing = spacing;
   for (const auto& box : m_boxes) box->boxSize.Value(height);

@@ -92,6 +92,15 @@ TEST_F(Legend, SizesBoxesAndEntriesAlike) {
   EXPECT_FLOAT_EQ(first->translation.Y(), 0.27F);
 }
 
+TEST_F(Legend, RaisesOverflowForBoxesThatCannotBePlaced) {
+  EXPECT_EQ(ErrorOf([&] { legend.TextHeight(3e38F); }).number, host::ErrorNumber::Overflow);
+  EXPECT_EQ(legend.TextHeight(), 1);
+  legend.TextHeight(2e38F);
+  Add("A");
+  Add("B");
+  EXPECT_EQ(ErrorOf([&] { Add("C"); }).number, host::ErrorNumber::Overflow);
+}
+
 TEST_F(Legend, KeepsToggleAndBillboardApart) {
   const auto legendTransform = LegendTransform();
   EXPECT_EQ(legend.Root()->children.Count(), 1);

@@ -133,7 +133,7 @@ TEST(PieLayout, KeepsLabelsClearOfPieLegendAndEachOther) {
         }
       }
       EXPECT_GE(shown, when == PieLabels::Touch ? count : std::min(count, 7)) << count;
-      EXPECT_LE(layout.LegendHeight(), 2 * layout.radius);
+      EXPECT_LE(layout.LegendHeight(), 2.3 * layout.radius);
     }
   }
 }

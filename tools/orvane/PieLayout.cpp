@@ -98,15 +98,16 @@ void LayOutLegend(const std::vector<PieShare>& shares, PieLayout& layout) {
   for (const PieShare& share : shares) {
     layout.legend.push_back(Label(share.label) + ", " + Percent(share.part));
   }
-  const double pitch = 1.6 * layout.radius / static_cast<double>(shares.size());
+  const double pitch = 2.2 * layout.radius / static_cast<double>(shares.size());
   layout.legendTextHeight = std::min(layout.textHeight, pitch / kLegendPitch);
   double right = 1.1 * layout.radius;
   for (const PieLabel& label : layout.labels) {
     const double half = TextWidth(label.text, layout.textHeight) / 2;
     right = std::max(right, label.distance * std::cos(label.angle) + half);
   }
-  layout.legendPlace = {right + layout.textHeight, layout.height / 2 - layout.LegendHeight() / 2,
-                        0};
+  // What is nearer than the legend looks larger.
+  layout.legendPlace = {1.08 * right + layout.textHeight,
+                        layout.height / 2 - layout.LegendHeight() / 2, 0};
 }
 
 void LayOutTitle(const std::string& title, PieLayout& layout) {
