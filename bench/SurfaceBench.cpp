@@ -14,7 +14,7 @@
 namespace {
 
 constexpr std::int16_t kSide = 300;
-constexpr int kRounds = 40;
+constexpr int kRounds = 200;
 constexpr double kLimit = 1.5;
 
 }  // namespace

@@ -79,6 +79,24 @@ TEST_F(CommandLine, WritesAWorldAndItsProtoFiles) {
   EXPECT_NE(world.find("\"A, B\""), std::string::npos);
 }
 
+TEST_F(CommandLine, ChartsSurfaces) {
+  Write("gap.csv", "Plan,a,b\nx,,2\ny,3,4\n");
+  const std::pair<std::vector<std::string>, const char*> cases[] = {
+      {{"surface", "gap.csv"}, "qm4_ElevationWireframe"},
+      {{"column-surface", "t.csv", "--surface", "gap.csv"}, "qm4_OutlinedColumnSeries"},
+      {{"ribbon-surface", "t.csv", "--surface", "gap.csv", "--style", "rounded"},
+       "qm4_RoundedRibbonSeries"}};
+  for (auto [arguments, shape] : cases) {
+    arguments.insert(arguments.begin(), "chart");
+    arguments.insert(arguments.end(), {"--missing", "zero", "-o", "-"});
+    const Outcome outcome = Orvane(arguments);
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_NE(outcome.out.find(shape), std::string::npos);
+    EXPECT_NE(outcome.out.find("SURFACE_1.set_contentsExist"), std::string::npos);
+    EXPECT_NE(outcome.out.find("\"Plan\""), std::string::npos);
+  }
+}
+
 TEST_F(CommandLine, PutsThePrefixAndNoProtoFiles) {
   EXPECT_EQ(Orvane({"chart", "area", "t.csv", "-o", "t.wrl", "--proto-prefix", "../p/"}).status, 0);
   EXPECT_EQ(Files(), (std::vector<std::string>{"t.csv", "t.wrl"}));
@@ -170,6 +188,11 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
       {area({"t.csv", "-o", "folder"}), 1, "folder: cannot be written: Is a directory\n"},
       {area({"t.csv", "-o", "no/o.wrl"}), 1,
        "no/VR_GRAPH.wrl: cannot be written: No such file or directory\n"},
+      {{"chart", "surface", "bad.csv", "-o", "o.wrl"}, 1, "bad.csv:2:3: \"abc\" is not a number\n"},
+      {{"chart", "column-surface", "t.csv", "-o", "o.wrl"}, 2, "--surface is required\n"},
+      {{"chart", "ribbon-surface", "t.csv", "--surface", "none.csv", "-o", "o.wrl"},
+       1,
+       "none.csv: cannot be read: No such file or directory\n"},
       {{"build", "bad.json", "-o", "o.wrl"},
        1,
        "bad.json:1:47: GridProps.Width: The graph must be wider than 0\n"},

@@ -69,5 +69,21 @@ TEST(RoundScale, HoldsForAnyRange) {
   }
 }
 
+TEST(FittedScale, LeavesOutA0ThatIsFarFromTheValues) {
+  const struct {
+    double lowest, highest, low, high;
+  } cases[] = {
+      {94, 195, 80, 200},          {3.3, 24.3, 0, 25},   {-195, -94, -200, -80},
+      {-5, 100, -20, 100},         {7, 7, 0, 8},         {0, 0, 0, 1},
+      {100000, 100001, 0, 120000}, {1e300, 2e300, 1, 2}, {-1e308, 1e308, -100, 100},
+  };
+  for (const auto& test : cases) {
+    const ValueScale scale = FittedScale(test.lowest, test.highest, 6);
+    SCOPED_TRACE(test.highest);
+    EXPECT_EQ(scale.low, test.low);
+    EXPECT_EQ(scale.high, test.high);
+  }
+}
+
 }  // namespace
 }  // namespace orvane::tool

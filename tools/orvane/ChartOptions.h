@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Color.h"
+#include "Table.h"
 
 #include <optional>
 #include <string>
@@ -21,6 +22,8 @@ inline constexpr double kMostExtent = 10000;
 
 struct ChartOptions {
   std::string title;
+  std::string surface;  ///< The grid of a combination chart's surface.
+  MissingCell missing = MissingCell::Error;
   std::optional<GridSize> size;  ///< Fitted to the table when left out.
   HostColor background = 0xFAF8F6;
   bool useToggles = true;

@@ -8,6 +8,7 @@
 #include "ProtoLocation.h"
 #include "SeriesCharts.h"
 #include "Source.h"
+#include "SurfaceCharts.h"
 #include "Table.h"
 #include "TypesReference.h"
 
@@ -43,11 +44,8 @@ struct WorldOutput {
 /// What the commands that chart a table are given.
 struct ChartRequest {
   std::string table;
-  bool missingIsZero = false;
   ChartOptions options;
   WorldOutput output;
-
-  MissingCell Missing() const { return missingIsZero ? MissingCell::Zero : MissingCell::Error; }
 };
 
 std::vector<OutputFile> ProtosIn(const fs::path& folder) {
@@ -121,7 +119,7 @@ void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string
   command.add_option("--missing", "What an empty cell stands for; left out, it is an error")
       ->type_name("zero")
       ->check(CLI::Validator(isZero, ""))
-      ->each([&request](const std::string&) { request.missingIsZero = true; });
+      ->each([&options](const std::string&) { options.missing = MissingCell::Zero; });
   command.add_flag_callback(
       "--no-toggles", [&options] { options.useToggles = false; },
       "Leave out the legend's check boxes");
@@ -171,6 +169,20 @@ void AddGroupingOptions(CLI::App& command, ChartOptions& options) {
       ->excludes(grouped);
 }
 
+void AddSurfaceOptions(CLI::App& command, ChartOptions& options) {
+  command
+      .add_option(
+          "--surface", options.surface,
+          "CSV grid of the surface: the rows and columns of the table, its name in the corner")
+      ->required()
+      ->type_name("GRID.csv");
+  AddStyleOption(command, options);
+}
+
+Table ReadSurface(const ChartOptions& options) {
+  return ReadTable(Source::Read(options.surface), options.missing);
+}
+
 using MakeChart = std::function<std::shared_ptr<Chart>(const Table&, const ChartOptions&)>;
 
 /// Adds the command "chart `name`", which writes the world of what `makeChart` makes of its table.
@@ -186,7 +198,7 @@ void AddChartCommand(CLI::App& charts, const std::string& name, const std::strin
   addOptions(command, request->options);
   command.callback([request, makeChart, &out] {
     WriteWorld(request->output, out, [&] {
-      const Table table = ReadTable(Source::Read(request->table), request->Missing());
+      const Table table = ReadTable(Source::Read(request->table), request->options.missing);
       return makeChart(table, request->options)->ExportToString(true, true);
     });
   });
@@ -221,7 +233,7 @@ void AddPieCommand(CLI::App& charts, std::ostream& out) {
       "--spin", [pie] { pie->useSpinAxis = true; }, "An axis that turns the pie");
   command.callback([request, pie, &out] {
     WriteWorld(request->output, out, [&] {
-      const auto shares = ReadPieTable(Source::Read(request->table), request->Missing());
+      const auto shares = ReadPieTable(Source::Read(request->table), request->options.missing);
       return MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
     });
   });
@@ -297,6 +309,20 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, MakeRibbonChart,
                   AddStyleOption);
   AddPieCommand(charts, out);
+  AddChartCommand(charts, "surface", "A surface over a grid of numbers", out, MakeSurfaceChart,
+                  [](CLI::App&, ChartOptions&) {});
+  AddChartCommand(
+      charts, "column-surface", "Columns in rows, and a surface over them", out,
+      [](const Table& table, const ChartOptions& options) {
+        return MakeColumnSurfaceChart(table, ReadSurface(options), options);
+      },
+      AddSurfaceOptions);
+  AddChartCommand(
+      charts, "ribbon-surface", "Ribbons, one behind the other, and a surface over them", out,
+      [](const Table& table, const ChartOptions& options) {
+        return MakeRibbonSurfaceChart(table, ReadSurface(options), options);
+      },
+      AddSurfaceOptions);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
   AddSettingsCommand(app, out);

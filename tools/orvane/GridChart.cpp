@@ -66,7 +66,10 @@ void DressGrid(GridGraph& chart, const GridLayout& layout, const Style& style) {
   grid.YAxisCellCount(static_cast<int16_t>(layout.scale.cells));
   grid.ZAxisCellCount(static_cast<int16_t>(layout.zLabels.texts.size()));
   grid.WallColor(style.wall);
-  grid.LineColor(style.line);
+  // Lines that stand close together would hide the walls: the closer, the fainter they are.
+  constexpr double kClear = 0.4;
+  const double pitch = std::min(layout.CellWidth(), layout.CellDepth());
+  grid.LineColor(Mix(style.wall, style.line, std::clamp(pitch / kClear, 0.2, 1.0)));
 }
 
 void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& style) {
@@ -80,6 +83,16 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   values.NumericFormat(layout.scale.LabelPicture());
   values.Min(Single(layout.scale.low));
   values.Max(Single(layout.scale.high));
+}
+
+/// Colours and size of popups, and whether they are there; `P` is those of series or of surfaces.
+template <class P>
+void DressPopups(P& popups, const GridLayout& layout, const ChartOptions& options) {
+  popups.TextColor(kDarkInk);
+  popups.BackgroundColor(kWhite);
+  popups.BorderColor(Mix(kDarkInk, kWhite, 0.5));
+  popups.TextHeight(Single(0.9 * layout.textHeight));
+  popups.UsePopups(options.usePopups);
 }
 
 }  // namespace
@@ -116,11 +129,33 @@ void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
     series.Height().Append(scaler.ScaledValue(Single(layout.scale.InUnits(data.cells[i].number))));
     popups.PopupText().Append(table.categories[i] + "\n" + data.name + ": " + data.cells[i].text);
   }
-  popups.TextColor(kDarkInk);
-  popups.BackgroundColor(kWhite);
-  popups.BorderColor(Mix(kDarkInk, kWhite, 0.5));
-  popups.TextHeight(Single(0.9 * layout.textHeight));
-  popups.UsePopups(options.usePopups);
+  DressPopups(popups, layout, options);
+}
+
+void DressGridSurface(SurfaceInfo& surface, std::size_t index, const Table& data,
+                      RowsAlong rowsAlong, const GridLayout& layout, const ChartOptions& options) {
+  const HostColor color = SeriesColor(index);
+  surface.Material()->diffuseColor.Value(color);
+  surface.WireColor(Mix(color, kDarkInk, 0.6));
+  surface.LegendText(layout.legend.texts[index]);
+
+  // Heights count from the floor, whatever value that stands for.
+  OrvaneScaler scaler;
+  scaler.FromMin(Single(layout.scale.low));
+  scaler.FromMax(Single(layout.scale.high));
+  scaler.ToMax(layout.size.height);
+  const std::string name = data.categoryHeader.empty() ? "" : data.categoryHeader + ": ";
+  for (std::size_t row = 0; row < data.categories.size(); ++row) {
+    for (std::size_t column = 0; column < data.series.size(); ++column) {
+      const TableCell& cell = data.series[column].cells[row];
+      const auto x = static_cast<int16_t>((rowsAlong == RowsAlong::X ? row : column) + 1);
+      const auto z = static_cast<int16_t>((rowsAlong == RowsAlong::X ? column : row) + 1);
+      surface.Set1HeightPoint(
+          x, z, scaler.ScaledValue(Single(layout.scale.InUnits(cell.number))),
+          data.categories[row] + ", " + data.series[column].name + "\n" + name + cell.text);
+    }
+  }
+  DressPopups(*surface.PopupProps(), layout, options);
 }
 
 }  // namespace orvane::tool

@@ -6,6 +6,9 @@
 #include "Table.h"
 
 #include "orvane/graphs/grid/CategoryGraph.h"
+#include "orvane/graphs/surface/SurfaceInfo.h"
+
+#include <cstddef>
 
 namespace orvane::tool {
 
@@ -16,5 +19,12 @@ void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartO
 /// Heights, colour, legend entry and popups of the `index`th series, counted from 0.
 void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
                      const GridLayout& layout, const ChartOptions& options);
+
+/// Heights, colour, legend entry and popups of a surface over the same grid. `data` has a row for
+/// each cell along `rowsAlong`, and a column for each cell along the other axis; the legend entry
+/// is the layout's `index`th.
+enum class RowsAlong { X, Z };
+void DressGridSurface(SurfaceInfo& surface, std::size_t index, const Table& data,
+                      RowsAlong rowsAlong, const GridLayout& layout, const ChartOptions& options);
 
 }  // namespace orvane::tool

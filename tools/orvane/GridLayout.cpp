@@ -15,26 +15,6 @@ namespace {
 /// A label takes at most this share of the room from one to the next.
 constexpr double kFill = 0.8;
 
-GridSize SizeFor(const Table& table, std::size_t rows) {
-  const double width = std::clamp(static_cast<double>(table.categories.size()), 8.0, 16.0);
-  const double height = std::clamp(0.5 * width, 5.0, 7.0);
-  const double depth = std::clamp(1.6 * static_cast<double>(rows), 2.0, 10.0);
-  return {static_cast<float>(width), static_cast<float>(height), static_cast<float>(depth)};
-}
-
-ValueScale ScaleOf(const Table& table) {
-  constexpr int kMostSteps = 6;
-  double lowest = 0;
-  double highest = 0;
-  for (const TableSeries& series : table.series) {
-    for (const TableCell& cell : series.cells) {
-      lowest = std::min(lowest, cell.number);
-      highest = std::max(highest, cell.number);
-    }
-  }
-  return RoundScale(lowest, highest, kMostSteps);
-}
-
 /// Labels `pitch` apart, as high as `wanted` where there is room. Where they would become
 /// unreadable, only every second, third, ... is shown.
 LabelColumn LayOutLabels(const std::vector<std::string>& texts, double pitch, double wanted) {
@@ -68,30 +48,61 @@ double GridLayout::LegendHeight() const {
   return kLegendPitch * legend.height * static_cast<double>(legend.texts.size());
 }
 
+GridSize SizeFor(std::size_t xCells, std::size_t zCells) {
+  const double width = std::clamp(static_cast<double>(xCells), 8.0, 16.0);
+  const double height = std::clamp(0.5 * width, 5.0, 7.0);
+  const double depth = std::clamp(1.6 * static_cast<double>(zCells), 2.0, 10.0);
+  return {static_cast<float>(width), static_cast<float>(height), static_cast<float>(depth)};
+}
+
+ValueRange RangeOf(const Table& table) {
+  ValueRange range{table.series[0].cells[0].number, table.series[0].cells[0].number};
+  for (const TableSeries& series : table.series) {
+    for (const TableCell& cell : series.cells) {
+      range.lowest = std::min(range.lowest, cell.number);
+      range.highest = std::max(range.highest, cell.number);
+    }
+  }
+  return range;
+}
+
+GridTexts TextsOf(const Table& table) {
+  GridTexts texts{table.categories, {}, {}, table.categoryHeader};
+  for (const TableSeries& series : table.series) texts.z.push_back(series.name);
+  texts.legend = texts.z;
+  return texts;
+}
+
 GridLayout LayOutGrid(const Table& table, const ChartOptions& options) {
+  GridTexts texts = TextsOf(table);
+  if (options.isGrouped) texts.z = {""};
+  const auto [lowest, highest] = RangeOf(table);
+  return LayOutGrid(texts, RoundScale(lowest, highest, kMostValueCells),
+                    SizeFor(texts.x.size(), texts.z.size()), options);
+}
+
+GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
+                      const ChartOptions& options) {
   GridLayout layout;
-  std::vector<std::string> names;
-  for (const TableSeries& series : table.series) names.push_back(series.name);
-  const auto rows = options.isGrouped ? std::vector<std::string>{""} : names;
-  layout.size = options.size.value_or(SizeFor(table, rows.size()));
-  layout.scale = ScaleOf(table);
+  layout.size = options.size.value_or(usual);
+  layout.scale = scale;
   layout.title = options.title;
-  layout.xHeader = Label(table.categoryHeader);
+  layout.xHeader = Label(texts.xHeader);
   layout.yHeader = layout.scale.UnitText();
 
   const auto [width, height, depth] = layout.size;
-  const double cellWidth = width / static_cast<double>(table.categories.size());
+  const double cellWidth = width / static_cast<double>(texts.x.size());
   const double cellHeight = height / static_cast<double>(layout.scale.cells);
-  const double cellDepth = depth / static_cast<double>(rows.size());
+  const double cellDepth = depth / static_cast<double>(texts.z.size());
 
   layout.textHeight = 0.032 * std::hypot(width, height, depth);
-  layout.xLabels = LayOutLabels(table.categories, cellWidth, layout.textHeight);
+  layout.xLabels = LayOutLabels(texts.x, cellWidth, layout.textHeight);
   layout.yLabels = LayOutLabels(NumbersOf(layout.scale), cellHeight, layout.textHeight);
-  layout.zLabels = LayOutLabels(rows, cellDepth, layout.textHeight);
+  layout.zLabels = LayOutLabels(texts.z, cellDepth, layout.textHeight);
 
   // All entries are shown, if need be small: each has its check box.
-  for (const std::string& name : names) layout.legend.texts.push_back(Label(name));
-  const double legendPitch = 0.9 * height / static_cast<double>(names.size());
+  for (const std::string& name : texts.legend) layout.legend.texts.push_back(Label(name));
+  const double legendPitch = 0.9 * height / static_cast<double>(texts.legend.size());
   layout.legend.height = std::min(layout.textHeight, legendPitch / kLegendPitch);
 
   layout.titleHeight = 1.8 * layout.textHeight;

@@ -7,6 +7,7 @@
 #include "ValueScale.h"
 #include "Views.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,14 @@ struct LabelColumn {
 
   /// An upper estimate of the widest text.
   double Width() const;
+};
+
+/// What a chart over a grid says: one label a cell along x and z, one entry a series or surface.
+struct GridTexts {
+  std::vector<std::string> x;
+  std::vector<std::string> z;
+  std::vector<std::string> legend;
+  std::string xHeader;
 };
 
 /// Texts and sizes of a chart over a grid. Lengths are in scene units.
@@ -49,6 +58,26 @@ struct GridLayout {
 /// The layout for `table`: categories along x, values along y, one series a cell along z, or all in
 /// one cell when they are grouped.
 GridLayout LayOutGrid(const Table& table, const ChartOptions& options);
+
+/// The texts of a table with a row of series in each cell along z.
+GridTexts TextsOf(const Table& table);
+
+/// The smallest and the largest of a table's numbers.
+struct ValueRange {
+  double lowest = 0;
+  double highest = 0;
+};
+ValueRange RangeOf(const Table& table);
+
+/// How many cells a value axis has at most.
+inline constexpr int kMostValueCells = 6;
+
+/// The layout for other charts; `usual` is the size that suits the data.
+GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
+                      const ChartOptions& options);
+
+/// The size that suits that many cells of a chart with series.
+GridSize SizeFor(std::size_t xCells, std::size_t zCells);
 
 /// All that has to be in view, in the frame of the grid.
 Subject SubjectOf(const GridLayout& layout);

@@ -1,7 +1,6 @@
 #include "SeriesCharts.h"
 
 #include "GridChart.h"
-#include "GridLayout.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -44,14 +43,7 @@ std::shared_ptr<ColumnGraph> MakeColumnChart(const Table& table, const ChartOpti
         chart.ColumnsPerCell(static_cast<int16_t>(slots));
         chart.ColumnSpacingStyle(ColumnCellSpacing::ADJACENT);
         auto series = options.isGrouped ? chart.GetSeries(1, Row(i)) : chart.GetSeries(Row(i));
-        // The columns of a cell fill the same part of it, however many they are.
-        const double width =
-            (options.isGrouped ? 0.8 : 0.6) * layout.CellWidth() / static_cast<double>(slots);
-        const double depth = std::min(0.6 * layout.CellDepth(), 1.5 * width);
-        series->Width(static_cast<float>(width));
-        series->Depth(static_cast<float>(depth));
-        series->BevelRadius(static_cast<float>(0.15 * std::min(width, depth)));
-        if (options.isRounded) series->Style(ColumnStyle::ROUNDED_COLUMN);
+        ShapeColumns(*series, slots, layout, options);
         return series;
       });
 }
@@ -60,13 +52,29 @@ std::shared_ptr<RibbonGraph> MakeRibbonChart(const Table& table, const ChartOpti
   return MakeChart<RibbonGraph>(table, options,
                                 [&](RibbonGraph& chart, std::size_t i, const auto& layout) {
                                   auto series = chart.GetSeries(Row(i));
-                                  const double thickness = 0.025 * layout.size.height;
-                                  series->Depth(static_cast<float>(0.6 * layout.CellDepth()));
-                                  series->Thickness(static_cast<float>(thickness));
-                                  series->BevelRadius(static_cast<float>(0.4 * thickness));
-                                  if (options.isRounded) series->Style(RibbonStyle::ROUNDED_RIBBON);
+                                  ShapeRibbon(*series, layout, options);
                                   return series;
                                 });
+}
+
+void ShapeColumns(ColumnSeriesInfo& series, std::size_t slots, const GridLayout& layout,
+                  const ChartOptions& options) {
+  // The columns of a cell fill the same part of it, however many they are.
+  const double width =
+      (options.isGrouped ? 0.8 : 0.6) * layout.CellWidth() / static_cast<double>(slots);
+  const double depth = std::min(0.6 * layout.CellDepth(), 1.5 * width);
+  series.Width(static_cast<float>(width));
+  series.Depth(static_cast<float>(depth));
+  series.BevelRadius(static_cast<float>(0.15 * std::min(width, depth)));
+  if (options.isRounded) series.Style(ColumnStyle::ROUNDED_COLUMN);
+}
+
+void ShapeRibbon(RibbonSeriesInfo& series, const GridLayout& layout, const ChartOptions& options) {
+  const double thickness = 0.025 * layout.size.height;
+  series.Depth(static_cast<float>(0.6 * layout.CellDepth()));
+  series.Thickness(static_cast<float>(thickness));
+  series.BevelRadius(static_cast<float>(0.4 * thickness));
+  if (options.isRounded) series.Style(RibbonStyle::ROUNDED_RIBBON);
 }
 
 }  // namespace orvane::tool

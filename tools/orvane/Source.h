@@ -24,6 +24,7 @@ class Source {
   /// Raises FileError also when the file cannot be read.
   static Source Read(const std::filesystem::path& path);
 
+  const std::string& Name() const { return m_name; }
   const std::string& Text() const { return m_text; }
 
   /// Raises FileError with `problem` at byte `offset`: "sales.csv:3:5: problem". Lines and columns

@@ -135,6 +135,7 @@ void ReadHeader(const std::vector<CsvCell>& row, std::size_t rowEnd, const Sourc
 Table ReadTable(const Source& source, MissingCell missing) {
   CsvReader reader(source);
   Table table;
+  table.file = source.Name();
   std::vector<CsvCell> row;
   if (!reader.Next(row)) source.Fail(0, "the file is empty");
   ReadHeader(row, reader.RowEnd(), source, table);

@@ -29,6 +29,7 @@ struct TableSeries {
 };
 
 struct Table {
+  std::string file;            ///< What messages call it.
   std::string categoryHeader;  ///< The header of the first column.
   std::vector<std::string> categories;
   std::vector<TableSeries> series;

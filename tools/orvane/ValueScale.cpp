@@ -20,26 +20,8 @@ int ExponentOf(double magnitude) {
   return 3 * static_cast<int>(std::floor(std::log10(magnitude) / 3));
 }
 
-}  // namespace
-
-double ValueScale::InUnits(double value) const { return Shift(value, -exponent); }
-
-std::string ValueScale::LabelPicture() const {
-  return decimals == 0 ? "#,##0" : "#,##0." + std::string(static_cast<std::size_t>(decimals), '0');
-}
-
-std::string ValueScale::UnitText() const {
-  if (exponent == 0) return "";
-  if (exponent < -9 || exponent > 9) return "× 1e" + std::to_string(exponent);
-  std::string unit = exponent > 0 ? "1" : "0.";
-  for (int i = 0; i < exponent; i += 3) unit += ",000";
-  if (exponent < 0) unit += std::string(static_cast<std::size_t>(-exponent - 1), '0') + "1";
-  return "× " + unit;
-}
-
-ValueScale RoundScale(double lowest, double highest, int mostCells) {
-  lowest = std::min(lowest, 0.0);
-  highest = std::max(highest, 0.0);
+/// The scale with the smallest step that reaches from `lowest` to `highest`.
+ValueScale ScaleOver(double lowest, double highest, int mostCells) {
   ValueScale scale;
   scale.exponent = ExponentOf(std::max(-lowest, highest));
   lowest = scale.InUnits(lowest);
@@ -66,6 +48,35 @@ ValueScale RoundScale(double lowest, double highest, int mostCells) {
       return scale;
     }
   }
+}
+
+}  // namespace
+
+double ValueScale::InUnits(double value) const { return Shift(value, -exponent); }
+
+std::string ValueScale::LabelPicture() const {
+  return decimals == 0 ? "#,##0" : "#,##0." + std::string(static_cast<std::size_t>(decimals), '0');
+}
+
+std::string ValueScale::UnitText() const {
+  if (exponent == 0) return "";
+  if (exponent < -9 || exponent > 9) return "× 1e" + std::to_string(exponent);
+  std::string unit = exponent > 0 ? "1" : "0.";
+  for (int i = 0; i < exponent; i += 3) unit += ",000";
+  if (exponent < 0) unit += std::string(static_cast<std::size_t>(-exponent - 1), '0') + "1";
+  return "× " + unit;
+}
+
+ValueScale RoundScale(double lowest, double highest, int mostCells) {
+  return ScaleOver(std::min(lowest, 0.0), std::max(highest, 0.0), mostCells);
+}
+
+ValueScale FittedScale(double lowest, double highest, int mostCells) {
+  constexpr double kFill = 0.6;
+  constexpr double kAllButEqual = 1e-3;  // Labels would have too many digits.
+  const double share = (highest - lowest) / std::max(-lowest, highest);
+  const bool isFar = share > kAllButEqual && share < kFill;
+  return isFar ? ScaleOver(lowest, highest, mostCells) : RoundScale(lowest, highest, mostCells);
 }
 
 }  // namespace orvane::tool

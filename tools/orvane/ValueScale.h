@@ -28,4 +28,8 @@ struct ValueScale {
 /// `mostCells` (2 or more) cells. Both values are finite; a table of zeros gets 0 to 1.
 ValueScale RoundScale(double lowest, double highest, int mostCells);
 
+/// The same without 0 where the values are far from it, as heights above the sea may be: it would
+/// leave them less than six tenths of the axis. Values that are all but equal keep the 0.
+ValueScale FittedScale(double lowest, double highest, int mostCells);
+
 }  // namespace orvane::tool
