@@ -108,6 +108,11 @@ class View {
     return this.page.evaluate(shareUnlike, [before, after].map((png) => png.toString('base64')));
   }
 
+  // The pixels of one row of a picture, from left to right: [red, green, blue] each, 0 to 255.
+  row(picture, y) {
+    return this.page.evaluate(pixelsOfRow, [picture.toString('base64'), Math.round(y)]);
+  }
+
   // The value of a node's field; the node is named as for `at`.
   read(path, field) {
     return this.#inScene(({ find, plain }, { path, field }) => (
@@ -115,10 +120,10 @@ class View {
     ), { path, field });
   }
 
-  // Sends a node's MFFloat field new values, as a ROUTE would.
+  // Sends a node's MFFloat or MFVec3f field new values, as a ROUTE would.
   async send(path, field, values) {
-    await this.#inScene(({ find, sendFloats }, { path, field, values }) => (
-      sendFloats(find(path).at(-1), field, values)
+    await this.#inScene(({ find, sendValues }, { path, field, values }) => (
+      sendValues(find(path).at(-1), field, values)
     ), { path, field, values });
     await this.still();
   }
@@ -196,6 +201,16 @@ async function shareUnlike(pictures) {
     if ([0, 1, 2].some((i) => Math.abs(one.data[at + i] - from[peer + i]) > 16)) ++unlike;
   }
   return unlike / (one.width * one.height);
+}
+
+// Runs in the page.
+async function pixelsOfRow([png, y]) {
+  const bytes = Uint8Array.from(atob(png), (char) => char.charCodeAt(0));
+  const bitmap = await createImageBitmap(new Blob([bytes]));
+  const context = new OffscreenCanvas(bitmap.width, 1).getContext('2d');
+  context.drawImage(bitmap, 0, -y);
+  const { data } = context.getImageData(0, 0, bitmap.width, 1);
+  return Array.from({ length: bitmap.width }, (_, x) => [...data.slice(4 * x, 4 * x + 3)]);
 }
 
 // Runs in the page: ways through the scene on X_ITE's side of it. X_ITE keeps matrices as arrays of
@@ -276,8 +291,11 @@ function sceneTools(X3D, canvas) {
     return [...field].map((element) => (typeof element === 'object' ? [...element] : element));
   }
 
-  function sendFloats(node, field, values) {
-    node.getField(field).assign(new X3D.MFFloat(...values));
+  function sendValues(node, field, values) {
+    const target = node.getField(field);
+    const elements = values.map((value) => (
+      Array.isArray(value) ? new X3D.SFVec3f(...value) : value));
+    target.assign(new X3D[target.getTypeName()](...elements));
   }
 
   // Those of a node's children that are drawn.
@@ -292,5 +310,5 @@ function sceneTools(X3D, canvas) {
       node.getTypeName() === 'Text' ? [...node.getField('string')] : drawnTexts(chosen(node))));
   }
 
-  return { find, place, plain, sendFloats, chosen, drawnTexts };
+  return { find, place, plain, sendValues, chosen, drawnTexts };
 }

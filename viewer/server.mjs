@@ -55,13 +55,15 @@ export async function start({ root, mounts = {}, port = 0 }) {
   };
 }
 
-// Serves the viewer page at the root of a folder of worlds, as if it were installed there.
-export function startViewer(root) {
+// Serves the viewer page at the root of a folder of worlds, as if it were installed there, and what
+// else is mounted.
+export function startViewer(root, mounts = {}) {
   const here = dirname(fileURLToPath(import.meta.url));
   const page = ['index.html', 'viewer.css', 'viewer.js'];
   return start({
     root,
     mounts: {
+      ...mounts,
       ...Object.fromEntries(page.map((file) => [`/${file}`, join(here, file)])),
       '/x_ite/': join(here, 'node_modules/x_ite/dist'),
     },

@@ -1,0 +1,188 @@
+// qm4_SphereCollection in a real browser, read off its pictures: few spheres, which are balls, and
+// many, which are a cloud of points, look alike.
+
+import assert from 'node:assert/strict';
+import { mkdtemp, rm, writeFile } from 'node:fs/promises';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
+import { after, afterEach, before, describe, test } from 'node:test';
+import { fileURLToPath } from 'node:url';
+import { launch, openPage } from '../browser.mjs';
+import { startViewer } from '../server.mjs';
+
+const RED = [0.8, 0, 0];
+const BLUE = [0, 0, 0.8];
+const SKY = [0, 128, 0];
+
+// The spheres that the tests look at, all in the plane z = 0, with space around them. The last one
+// has neither colour nor radius.
+const SPHERES = [
+  { place: [-3, 2, 0], color: RED, radius: 0.4, transparency: 0 },
+  { place: [3, 2, 0], color: BLUE, radius: 0.8, transparency: 0 },
+  { place: [-3, -2, 0], color: BLUE, radius: 0.8, transparency: 0.5 },
+  { place: [3, -2, 0], radius: 0.1 },
+];
+const SCALE = 1.5; // of the whole collection
+
+const EYE = 20; // above the plane of the spheres
+const VIEW_ANGLE = Math.PI / 4; // of the window's height
+
+const INTERFACE = [
+  'SFVec3f translation', 'SFRotation rotation', 'SFVec3f scale', 'MFVec3f locations',
+  'MFColor colors', 'MFFloat transparencies', 'MFFloat radii',
+];
+
+// The spheres above, and `hidden` more of radius 0 before them.
+function world(hidden) {
+  const styled = SPHERES.filter(({ color }) => color);
+  const list = (entry, values) => [...Array(hidden).fill(entry), ...values].join(', ');
+  return `#VRML V2.0 utf8
+EXTERNPROTO qm4_SphereCollection [
+  ${INTERFACE.map((field) => `exposedField ${field}`).join('\n  ')}
+] "protos/VR_GRAPH.wrl#qm4_SphereCollection"
+Background { skyColor ${SKY.map((part) => part / 255).join(' ')} }
+Viewpoint { position 0 0 ${EYE} fieldOfView ${VIEW_ANGLE} }
+DEF SPHERES qm4_SphereCollection {
+  scale ${SCALE} ${SCALE} ${SCALE}
+  locations [ ${list('0 0 0', SPHERES.map(({ place }) => place.join(' ')))} ]
+  colors [ ${list('1 1 0', styled.map(({ color }) => color.join(' ')))} ]
+  transparencies [ ${list('0', styled.map(({ transparency }) => transparency))} ]
+  radii [ ${list('0', styled.map(({ radius }) => radius))} ]
+}
+`;
+}
+
+const HIDDEN = { few: 0, many: 200 };
+
+let folder;
+let server;
+let browser;
+let view;
+
+before(async () => {
+  folder = await mkdtemp(join(tmpdir(), 'spheres-'));
+  for (const [name, hidden] of Object.entries(HIDDEN)) {
+    await writeFile(join(folder, `${name}.wrl`), world(hidden));
+  }
+  server = await startViewer(folder, {
+    '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)),
+  });
+  browser = await launch();
+});
+
+after(async () => {
+  await browser?.close();
+  await server?.close();
+  if (folder) await rm(folder, { recursive: true });
+});
+
+afterEach(async () => {
+  await view?.close();
+  view = undefined;
+});
+
+async function open(name, size) {
+  view = await openPage(browser, server.url, `${name}.wrl`, size);
+  await view.ready();
+}
+
+function isSky(color) {
+  return color.every((part, i) => Math.abs(part - SKY[i]) < 12);
+}
+
+// What the picture shows in the row of pixels through a place of the collection: the colour in the
+// middle of the place, and how many pixels around it are not background.
+async function seen(place) {
+  const at = await view.at('SPHERES', place);
+  const row = await view.row(await view.page.screenshot(), at.y);
+  const middle = Math.round(at.x);
+  let from = middle;
+  let to = middle;
+  if (isSky(row[middle])) return { color: row[middle], width: 0 };
+  while (!isSky(row[from - 1])) --from;
+  while (!isSky(row[to])) ++to;
+  return { color: row[middle], width: to - from };
+}
+
+// How many pixels a sphere is wide that the viewer sees straight ahead.
+async function trueWidth(radius) {
+  const { height } = await view.page.locator('x3d-canvas').boundingBox();
+  return (SCALE * radius * height) / (EYE * Math.tan(VIEW_ANGLE / 2));
+}
+
+function moved([x, y, z]) {
+  return [x / 2, y + 1, z];
+}
+
+// The nodes that the collection's body draws, kept in the page, and whether they are still the same.
+const keepNodes = () => view.page.evaluate(() => {
+  const instance = document.querySelector('x3d-canvas').browser.currentScene.getNamedNode('SPHERES');
+  window.drawn = () => [...instance.getValue().getBody().getNamedNode('Spheres').children]
+    .map((node) => node.getValue());
+  window.kept = window.drawn();
+});
+const areKept = () => view.page.evaluate(() => {
+  const now = window.drawn();
+  return now.length > 0 && now.length === window.kept.length
+    && now.every((node, i) => node === window.kept[i]);
+});
+
+for (const [name, hidden] of Object.entries(HIDDEN)) {
+  describe(`${name} spheres`, () => {
+    for (const size of [{ width: 1000, height: 700 }, { width: 600, height: 800 }]) {
+      test(`are as large as their radii in a window of ${size.width} x ${size.height}`, async () => {
+        await open(name, size);
+        for (const { place, radius } of SPHERES) {
+          const { width } = await seen(place);
+          const expected = await trueWidth(radius);
+          assert.ok(Math.abs(width - expected) <= 2 + 0.04 * expected, `${width}, not ${expected}`);
+        }
+        assert.deepEqual(view.complaints, []);
+      });
+    }
+
+    test('have their colours, and let through what is behind them', async () => {
+      await open(name);
+      const [red, blue, clear, plain] = await Promise.all(
+        SPHERES.map(async ({ place }) => (await seen(place)).color),
+      );
+      assert.ok(red[0] > 190 && red[1] < 110 && red[1] === red[2], `red: ${red}`);
+      assert.ok(blue[2] > 190 && blue[0] < 110 && blue[0] === blue[1], `blue: ${blue}`);
+      for (const i of [0, 1, 2]) {
+        const mixed = (blue[i] + SKY[i]) / 2;
+        assert.ok(Math.abs(clear[i] - mixed) < 12, `half transparent: ${clear}`);
+      }
+      assert.ok(plain.every((part) => part > 220 && part === plain[0]), `no colour: ${plain}`);
+    });
+
+    test('go where set_locations sends them, without being made anew', async () => {
+      await open(name);
+      await keepNodes();
+      const places = SPHERES.map(({ place }) => moved(place));
+      await view.send('SPHERES', 'set_locations', [...Array(hidden).fill([0, 0, 0]), ...places]);
+      for (const [i, { place, radius }] of SPHERES.entries()) {
+        const { width } = await seen(moved(place));
+        assert.ok(Math.abs(width - await trueWidth(radius)) < 6, `${i}: ${width}`);
+        assert.equal((await seen(place)).width, 0, `${i} is still there`);
+      }
+      assert.ok(await areKept());
+      assert.deepEqual(view.complaints, []);
+    });
+
+    test('change their number with their locations', async () => {
+      await open(name);
+      const some = 150; // a cloud, whatever was there before
+      const aside = Array(some - 2).fill([0, -50, 0]);
+      await view.send('SPHERES', 'set_radii', Array(some).fill(0.3));
+      await view.send('SPHERES', 'set_locations', [[0, 0, 0], ...aside, [3, 0, 0]]);
+      for (const place of [[0, 0, 0], [3, 0, 0]]) {
+        const { width } = await seen(place);
+        assert.ok(Math.abs(width - await trueWidth(0.3)) < 4, `${width}, not ${await trueWidth(0.3)}`);
+      }
+      await view.send('SPHERES', 'set_locations', [[0, 0, 0]]);
+      assert.ok((await seen([0, 0, 0])).width > 10);
+      assert.equal((await seen([3, 0, 0])).width, 0);
+      assert.deepEqual(view.complaints, []);
+    });
+  });
+}
