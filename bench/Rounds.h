@@ -2,19 +2,19 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <limits>
 #include <utility>
 
 namespace orvane::bench {
 
+/// Processor time, to which other programs on a busy machine add nothing.
 inline double MillisecondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-      .count();
+  return 1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 /// The best times of `one` and `other`, in ms. Their rounds alternate and the best of each counts,
