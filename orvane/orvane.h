@@ -9,6 +9,7 @@
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/graphs/scatter/ScatterGraph.h"
+#include "orvane/graphs/surface/DensityGraph.h"
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"

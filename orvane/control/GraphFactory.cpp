@@ -15,6 +15,7 @@ const host::TypeInfo& GraphFactory::Type() const {
           .Method("CreateRibbonGraph", &F::CreateRibbonGraph, {}, {"A new ribbon chart"})
           .Method("CreateScatterGraph", &F::CreateScatterGraph, {}, {"A new scatter chart"})
           .Method("CreateSurfaceGraph", &F::CreateSurfaceGraph, {}, {"A new surface chart"})
+          .Method("CreateDensityGraph", &F::CreateDensityGraph, {}, {"A new density chart"})
           .Method("CreateSCComboGraph", &F::CreateSCComboGraph, {},
                   {"A new chart of columns under surfaces"})
           .Method("CreateRCComboGraph", &F::CreateRCComboGraph, {},

@@ -6,6 +6,7 @@
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/graphs/scatter/ScatterGraph.h"
+#include "orvane/graphs/surface/DensityGraph.h"
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
@@ -28,6 +29,7 @@ class ORVANE_API GraphFactory final : public host::Object {
   std::shared_ptr<RibbonGraph> CreateRibbonGraph() { return std::make_shared<RibbonGraph>(); }
   std::shared_ptr<ScatterGraph> CreateScatterGraph() { return std::make_shared<ScatterGraph>(); }
   std::shared_ptr<SurfaceGraph> CreateSurfaceGraph() { return std::make_shared<SurfaceGraph>(); }
+  std::shared_ptr<DensityGraph> CreateDensityGraph() { return std::make_shared<DensityGraph>(); }
   std::shared_ptr<SCComboGraph> CreateSCComboGraph() { return std::make_shared<SCComboGraph>(); }
   std::shared_ptr<RCComboGraph> CreateRCComboGraph() { return std::make_shared<RCComboGraph>(); }
 };

@@ -40,12 +40,12 @@ void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begi
 Objects ObjectModel() {
   Objects all = ControlAndFactory();
   Append(all, Charts());
-  Append(all,
-         Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo, PieSpinAxisInfo,
-              PointCollection, ScatterLegendInfo, SliderInfo, SurfaceInfo, SurfacePopupInfo,
-              SeriesCollection, TextInfo, BackgroundInfo, GridInfo, DiscreteAxis, ContinuousAxis,
-              LegendInfo, SeriesToggleInfo, DrillUpInfo, DrillDownInfo, GridInteractivityInfo,
-              SeriesPopupInfo, ViewpointCollection, LightCollection, OrvaneScaler>());
+  Append(all, Make<AreaSeriesInfo, ColumnSeriesInfo, RibbonSeriesInfo, PieSliceInfo,
+                   PieSpinAxisInfo, PointCollection, ScatterLegendInfo, SliderInfo, SurfaceInfo,
+                   SurfacePopupInfo, DensitySurfaceInfo, SeriesCollection, TextInfo, BackgroundInfo,
+                   GridInfo, DiscreteAxis, ContinuousAxis, LegendInfo, SeriesToggleInfo,
+                   DrillUpInfo, DrillDownInfo, GridInteractivityInfo, SeriesPopupInfo,
+                   ViewpointCollection, LightCollection, OrvaneScaler>());
   const auto factory = scene::CoreFactory();
   for (const auto& name : factory->NodeTypes()) all.push_back(factory->CreateNode(name));
   for (const auto& name : factory->FieldTypes()) all.push_back(factory->CreateField(name));

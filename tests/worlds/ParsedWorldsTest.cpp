@@ -184,6 +184,35 @@ TEST(ParsedArea, IsCompleteWithoutSeries) {
   EXPECT_EQ(world.CountOf("qm4_OutlinedAreaSeries"), 0);
 }
 
+TEST(ParsedDensity, HoldsHillsAxesAndCone) {
+  const auto chart = CreateChart("DensityGraph");
+  const auto grid = chart->Get("GridProps").AsObject();
+  grid->Let("XAxisCellCount", 2);
+  grid->Let("ZAxisCellCount", 1);
+  grid->Let("Height", 3);
+  chart->Get("LegendProps").AsObject()->Let("UseSeriesToggle", true);
+  chart->Get("XAxisProps").AsObject()->Let("Max", 50);
+  chart->Let("UseDrillUp", true);
+  chart->Let("SurfaceCount", 1);
+  chart->Let("Sigma", 0.01);
+  const auto surface = chart->Call("GetSurface", {1}).AsObject();
+  surface->Let("LegendText", std::string("Cloud"));
+  surface->Get("PointList").AsObject()->Call("Append", {0, 0});
+  const ParsedWorld world(*chart->Call("ExportToString", {true, true}).If<std::string>());
+  ASSERT_EQ(world.Complaints(), std::vector<std::string>());
+  SoNode* toggle = world.Named("SURFACE_1");
+  ASSERT_NE(toggle, nullptr);
+  EXPECT_EQ(world.TranslationAbove(toggle), "0 0.02 0");
+  std::string heights = "[ 3";
+  for (int i = 1; i < 7 * 4; ++i) heights += ", 0";
+  const auto contents = ParsedWorld::FieldOf(toggle, "contents");
+  EXPECT_NE(contents.find(heights + " ]"), std::string::npos) << contents;
+  EXPECT_EQ(world.CountOf("qm4_ElevationWireframe"), 1);
+  EXPECT_EQ(world.CountOf("VRMLCone"), 1);
+  EXPECT_EQ(world.Routes(), std::vector<std::string>{
+                                "ROUTE CHECK_BOX_1.value_changed TO SURFACE_1.set_contentsExist"});
+}
+
 TEST(ParsedCombos, HoldSeriesAndSurfaces) {
   for (const char* name : {"SCComboGraph", "RCComboGraph"}) {
     const auto chart = CreateChart(name);

@@ -87,7 +87,7 @@ std::string SecondOpinion(const std::string& text) {
 RC_GTEST_PROP(RandomSequences, AreWrittenAlikeTwiceAndParse, ()) {
   const auto name = *rc::gen::element<std::string>("AreaGraph", "ColumnGraph", "RibbonGraph",
                                                    "PieGraph", "ScatterGraph", "SurfaceGraph",
-                                                   "SCComboGraph", "RCComboGraph");
+                                                   "DensityGraph", "SCComboGraph", "RCComboGraph");
   const auto chart = CreateChart(name);
   const auto stepCount = *rc::gen::inRange(1, 60);
   for (int i = 0; i < stepCount; ++i) RandomStep(*chart, 0);
