@@ -1,6 +1,7 @@
 /// The density chart.
 #pragma once
 
+#include "orvane/components/DrillUpInfo.h"
 #include "orvane/graphs/grid/GridGraph.h"
 #include "orvane/graphs/surface/DensitySurfaceInfo.h"
 #include "orvane/graphs/surface/SurfaceList.h"
