@@ -177,6 +177,38 @@ TEST(ParsedScatter, ChoosesAmongItsFrames) {
   EXPECT_EQ(world.Routes().size(), 1U);
 }
 
+TEST(ParsedPie, HoldsWhatTheHostSet) {
+  const auto chart = std::make_shared<PieGraph>();
+  chart->SliceCount(3);
+  chart->LegendProps()->UseSeriesToggle(true);
+  chart->UseSpinAxis(true);
+  chart->UseDrillUp(true);
+  const SliceStyle styles[] = {SliceStyle::OUTLINED_SLICE, SliceStyle::ROUNDED_SLICE,
+                               SliceStyle::RING_SLICE};
+  for (std::int16_t i = 1; i <= 3; ++i) {
+    const auto slice = chart->GetSlice(i);
+    slice->Percentage(0.25F * static_cast<float>(i - 1));
+    slice->Style(styles[i - 1]);
+    slice->SliceTextProps()->Text("\"Part\" " + std::to_string(i));
+    slice->UseDrillDown(true);
+  }
+  const ParsedWorld world(chart->ExportToString(true, true));
+  ASSERT_EQ(world.Complaints(), std::vector<std::string>());
+  for (const char* shape :
+       {"qm4_OutlinedPieSlice", "qm4_RoundedPieSlice", "qm4_RoundedRingSlice"}) {
+    EXPECT_EQ(world.CountOf(shape), 1) << shape;
+  }
+  EXPECT_EQ(world.CountOf("qm4_CheckBox"), 3);
+  EXPECT_EQ(world.CountOf("qm4_ContentToggle"), 6);
+  EXPECT_EQ(world.CountOf("VRMLAnchor"), 4);
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("SLICE_TEXT_TOGGLE_3"), "contentsExist"), "FALSE");
+  EXPECT_TRUE(
+      ParsedWorld::FieldOf(world.Named("INNER_TRANS_3"), "rotation").starts_with("0 1 0 1.57079"));
+  EXPECT_EQ(ParsedWorld::FieldOf(world.Named("SLICE_DRAG_2"), "maxPosition"), "100 0");
+  EXPECT_NE(world.Named("SPIN_AXIS"), nullptr);
+  EXPECT_EQ(world.Routes().size(), 10U);
+}
+
 TEST(ParsedArea, IsCompleteWithoutSeries) {
   const ParsedWorld world(std::make_shared<AreaGraph>()->ExportToString(true, false));
   EXPECT_EQ(world.Complaints(), std::vector<std::string>());
