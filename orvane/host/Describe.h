@@ -53,6 +53,13 @@ class Describe {
     return Add<T>(name, Getter<T>(get), Letter<T>(let), std::move(help));
   }
 
+  /// A property that C++ reads by reference, such as all entries of a list.
+  template <class T, class Reader, class Writer>
+  Describe& Property(const char* name, const T& (Reader::*get)() const, void (Writer::*let)(T),
+                     Help help) {
+    return Add<T>(name, Getter<T>(get), Letter<T>(let), std::move(help));
+  }
+
   /// A property that can be set but not read.
   template <class T>
   Describe& WriteOnly(const char* name, void (C::*let)(LetArgument<T>), Help help) {

@@ -19,7 +19,9 @@ std::string Value::Describe() const {
   if (const auto* value = If<bool>()) return *value ? "Boolean true" : "Boolean false";
   if (If<std::int32_t>() || If<float>() || If<double>()) return "number " + ToText(*this);
   if (const auto* value = If<std::string>()) return "String \"" + *value + "\"";
-  if (If<Numbers>()) return "a row of numbers";
+  if (const auto* row = If<Numbers>()) {
+    return "a row of " + std::to_string(row->size()) + " number(s)";
+  }
   if (const auto* value = If<std::shared_ptr<Object>>()) {
     return *value ? "an object of class " + (*value)->Type().Name() : "no object";
   }

@@ -6,26 +6,63 @@
 #include "orvane/scene/SceneWriter.h"
 
 #include <algorithm>
+#include <array>
+#include <bit>
 
 namespace orvane::host {
 
-/// Entries of more than one component reach late-bound callers as a row of numbers.
-template <>
-struct Automation<scene::Vec2f> {
+/// Entries of more than one component reach late-bound callers as a row of numbers, and so do all
+/// entries of a list, component after component.
+template <class Entry, std::size_t kComponents>
+struct RowAutomation {
   static ValueType Type() { return {"Numbers"}; }
-  static Value To(scene::Vec2f v) { return Value::Numbers{v.x, v.y}; }
+  static Value To(const Entry& entry) {
+    const auto components = std::bit_cast<std::array<float, kComponents>>(entry);
+    return Value::Numbers(components.begin(), components.end());
+  }
 };
 
 template <>
-struct Automation<scene::Vec3f> {
-  static ValueType Type() { return {"Numbers"}; }
-  static Value To(scene::Vec3f v) { return Value::Numbers{v.x, v.y, v.z}; }
-};
-
+struct Automation<scene::Vec2f> : RowAutomation<scene::Vec2f, 2> {};
 template <>
-struct Automation<scene::Color> {
+struct Automation<scene::Vec3f> : RowAutomation<scene::Vec3f, 3> {};
+template <>
+struct Automation<scene::Color> : RowAutomation<scene::Color, 3> {};
+
+template <class Entry>
+struct Automation<std::vector<Entry>> {
+  static constexpr std::size_t kComponents = sizeof(Entry) / sizeof(float);
+  using Components = std::array<float, kComponents>;
+
   static ValueType Type() { return {"Numbers"}; }
-  static Value To(scene::Color c) { return Value::Numbers{c.red, c.green, c.blue}; }
+
+  static std::vector<Entry> From(const Value& value, const Place& place) {
+    const auto* row = value.If<Value::Numbers>();
+    if (row == nullptr || row->size() % kComponents != 0) {
+      RaiseMismatch(value,
+                    kComponents == 1 ? "a row of numbers"
+                                     : "rows of " + std::to_string(kComponents) + " numbers",
+                    place);
+    }
+    std::vector<Entry> entries;
+    entries.reserve(row->size() / kComponents);
+    for (std::size_t i = 0; i < row->size(); i += kComponents) {
+      Components components;
+      for (std::size_t k = 0; k < kComponents; ++k) components[k] = ToSingle((*row)[i + k], place);
+      entries.push_back(std::bit_cast<Entry>(components));
+    }
+    return entries;
+  }
+
+  static Value To(const std::vector<Entry>& entries) {
+    Value::Numbers row;
+    row.reserve(entries.size() * kComponents);
+    for (const Entry& entry : entries) {
+      const auto components = std::bit_cast<Components>(entry);
+      row.insert(row.end(), components.begin(), components.end());
+    }
+    return row;
+  }
 };
 
 }  // namespace orvane::host
@@ -66,6 +103,13 @@ void DescribeCopy(Describe<F>& list) {
               {"Replaces the entries of another list with a copy of these"});
 }
 
+template <class F>
+void DescribeItems(Describe<F>& list) {
+  list.template Property<typename F::List>(
+      "Items", &F::Items, &F::Items,
+      {"All entries at once, component after component; a let replaces all or none"});
+}
+
 }  // namespace
 
 const TypeInfo& MFNode::Type() const {
@@ -99,7 +143,8 @@ const TypeInfo& MFFloat::Type() const {
           .Indexed<float>("Item", &MFFloat::Item, &MFFloat::Item, {"One entry", "", "1..Count"})
           .Method("Append", &MFFloat::Append, {"value"}, kAppend)
           .With(DescribeList<MFFloat>)
-          .With(DescribeCopy<MFFloat>);
+          .With(DescribeCopy<MFFloat>)
+          .With(DescribeItems<MFFloat>);
   return type;
 }
 
@@ -110,7 +155,8 @@ const TypeInfo& MFColor::Type() const {
           .Method("SetItem", &MFColor::SetItem, {"Index", "red", "green", "blue"},
                   {"Replaces one entry", "", "1..Count"})
           .Method("Append", &MFColor::Append, {"red", "green", "blue"}, kAppend)
-          .With(DescribeList<MFColor>);
+          .With(DescribeList<MFColor>)
+          .With(DescribeItems<MFColor>);
   return type;
 }
 
@@ -119,7 +165,8 @@ const TypeInfo& MFVec2f::Type() const {
       Describe<MFVec2f>("A list of points in the plane.")
           .Indexed<Vec2f>("Item", &MFVec2f::Item, {"One entry as two numbers", "", "1..Count"})
           .Method("Append", &MFVec2f::Append, {"x", "y"}, kAppend)
-          .With(DescribeList<MFVec2f>);
+          .With(DescribeList<MFVec2f>)
+          .With(DescribeItems<MFVec2f>);
   return type;
 }
 
@@ -128,7 +175,8 @@ const TypeInfo& MFVec3f::Type() const {
       Describe<MFVec3f>("A list of points in space.")
           .Indexed<Vec3f>("Item", &MFVec3f::Item, {"One entry as three numbers", "", "1..Count"})
           .Method("Append", &MFVec3f::Append, {"x", "y", "z"}, kAppend)
-          .With(DescribeList<MFVec3f>);
+          .With(DescribeList<MFVec3f>)
+          .With(DescribeItems<MFVec3f>);
   return type;
 }
 
@@ -193,6 +241,25 @@ Color MFColor::CheckedColor(float red, float green, float blue) const {
     }
   }
   return {red, green, blue};
+}
+
+void MFColor::Items(List items) {
+  for (const Color& item : items) (void)CheckedColor(item.red, item.green, item.blue);
+  m_items = std::move(items);
+}
+
+void MFVec2f::Items(List items) {
+  for (const Vec2f& item : items) {
+    for (const float component : {item.x, item.y}) (void)Checked(component);
+  }
+  m_items = std::move(items);
+}
+
+void MFVec3f::Items(List items) {
+  for (const Vec3f& item : items) {
+    for (const float component : {item.x, item.y, item.z}) (void)Checked(component);
+  }
+  m_items = std::move(items);
 }
 
 void MFNode::Append(const std::shared_ptr<Node>& node) { m_items.push_back(CheckedNode(node)); }

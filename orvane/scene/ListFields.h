@@ -126,6 +126,9 @@ class ORVANE_API MFColor final : public ListField<MFColor, Color> {
   void Append(float red, float green, float blue) {
     m_items.push_back(CheckedColor(red, green, blue));
   }
+  using ListField::Items;
+  /// Replaces all entries, or none when one of them raises.
+  void Items(List items);
 
  private:
   Color CheckedColor(float red, float green, float blue) const;
@@ -143,6 +146,9 @@ class ORVANE_API MFVec2f final : public ListField<MFVec2f, Vec2f> {
 
   /// Numbers are finite; NotFinite otherwise.
   void Append(float x, float y) { m_items.push_back({Checked(x), Checked(y)}); }
+  using ListField::Items;
+  /// Replaces all entries, or none when one of them raises.
+  void Items(List items);
 };
 
 class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
@@ -159,6 +165,9 @@ class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
   void Append(float x, float y, float z) {
     m_items.push_back({Checked(x), Checked(y), Checked(z)});
   }
+  using ListField::Items;
+  /// Replaces all entries, or none when one of them raises.
+  void Items(List items);
 };
 
 class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> {

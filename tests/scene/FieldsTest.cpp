@@ -182,6 +182,65 @@ TEST(LateBoundFields, AreReachedThroughTheirNodeAndKeepItAlive) {
   EXPECT_EQ(points->Get("Item", {1}), host::Value(host::Value::Numbers{1, 2, 3.5}));
 }
 
+TEST(LateBoundLists, TakeAllEntriesAtOnceOrNone) {
+  using host::Value;
+  using Row = Value::Numbers;
+  const auto view = Create<Background>();
+  const auto text = Create<Text>();
+  const auto points = CoreFactory()->CreateField("MFVec3f");
+  const auto plane = CoreFactory()->CreateField("MFVec2f");
+  struct Case {
+    host::Object& list;
+    Row accepted;
+    Value refused;
+    ErrorNumber number;
+    const char* message;
+  };
+  const Case cases[] = {
+      {text->length,
+       {1, 2, 3.5},
+       Row{1, 2, -1},
+       ErrorNumber::OutOfRange,
+       "Text.length takes numbers in the range [0..inf], got -1"},
+      {text->length,
+       {},
+       Row{1, 1e39},
+       ErrorNumber::Overflow,
+       "Overflow: MFFloat.Items: 1e+39 does not fit a 32-bit float"},
+      {text->length,
+       {4},
+       5,
+       ErrorNumber::TypeMismatch,
+       "Type mismatch: MFFloat.Items expects a row of numbers, got number 5"},
+      {view->skyColor,
+       {0, 0.5, 1, 1, 0, 0},
+       Row{1, 1, 1, 0, 0, 1.5},
+       ErrorNumber::OutOfRange,
+       "Background.skyColor takes components in the range [0..1]"},
+      {*points,
+       {1, 2, 3, 4, 5, 6},
+       Row{1, 2, 3, 4},
+       ErrorNumber::TypeMismatch,
+       "Type mismatch: MFVec3f.Items expects rows of 3 numbers, got a row of 4 number(s)"},
+      {*plane,
+       {1, 2, 3, 4},
+       Row{1, 2, 3, kNan},
+       ErrorNumber::Overflow,
+       "Overflow: MFVec2f.Items: nan does not fit a 32-bit float"},
+  };
+  for (const Case& test : cases) {
+    test.list.Let("Items", Value(test.accepted));
+    EXPECT_EQ(ErrorOf([&] { test.list.Let("Items", test.refused); }),
+              (Raised{test.number, test.message}));
+    EXPECT_EQ(test.list.Get("Items"), Value(test.accepted)) << test.message;
+  }
+  EXPECT_EQ(view->skyColor.Items(), (MFColor::List{{0, 0.5F, 1}, {1, 0, 0}}));
+  EXPECT_EQ(points->Get("Item", {2}), Value(Row{4, 5, 6}));
+  MFVec2f::List early{{1, kInfinity}};
+  EXPECT_EQ(ErrorOf([&] { dynamic_cast<MFVec2f&>(*plane).Items(early); }).number,
+            ErrorNumber::NotFinite);
+}
+
 TEST(Factory, KnowsItsModulesTypesAndNoOthers) {
   const auto& form = frmMain::Instance();
   EXPECT_EQ(form.graph.Factory()->CreateNode("qm4_Legend")->TypeName(), std::string("qm4_Legend"));
