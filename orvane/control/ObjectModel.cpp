@@ -62,4 +62,18 @@ std::shared_ptr<host::Object> CreateChart(std::string_view className) {
   return nullptr;
 }
 
+std::shared_ptr<host::Object> CreateObject(std::string_view className) {
+  if (auto chart = CreateChart(className)) return chart;
+  const auto isIt = [=](std::string_view name) { return host::EqualNoCase(name, className); };
+  if (isIt(OrvaneScaler::kClassName)) return std::make_shared<OrvaneScaler>();
+  const auto factory = scene::CoreFactory();
+  for (const auto& name : factory->NodeTypes()) {
+    if (isIt(name)) return factory->CreateNode(name);
+  }
+  for (const auto& name : scene::Factory::FieldTypes()) {
+    if (isIt(name)) return factory->CreateField(name);
+  }
+  return nullptr;
+}
+
 }  // namespace orvane
