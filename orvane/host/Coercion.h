@@ -27,7 +27,7 @@ struct Place {
   const Member& member;
   std::size_t argument;  ///< 0-based; the number of parameters for the value of a let.
 
-  std::string Describe() const;
+  ORVANE_API std::string Describe() const;
 };
 
 /// `value` as people write it. Raises TypeMismatch for objects and rows.
