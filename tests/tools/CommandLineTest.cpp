@@ -135,6 +135,20 @@ TEST_F(CommandLine, AppliesTheOptionsOfPies) {
   EXPECT_EQ(outcome.out.find("SLICE_TEXT_TOGGLE_"), std::string::npos);
 }
 
+TEST_F(CommandLine, ChartsPoints) {
+  Write("p.csv", "x,y,z,frame\n1,2,3,a\n2,3,4,b\n5,6,7,c\n");
+  const Outcome smooth = Orvane({"chart", "scatter", "p.csv", "-o", "-", "--loop", "continuous",
+                                 "--frame-seconds", "2.5", "--title", "Points"});
+  EXPECT_EQ(smooth.status, 0) << smooth.err;
+  for (const char* part : {"cycleInterval 7.5", "loop TRUE", "\"Points\""}) {
+    EXPECT_NE(smooth.out.find(part), std::string::npos) << part;
+  }
+  const Outcome slider = Orvane({"chart", "scatter", "p.csv", "-o", "-", "--animate", "slider"});
+  EXPECT_EQ(slider.status, 0) << slider.err;
+  EXPECT_NE(slider.out.find("maxValue 2"), std::string::npos);
+  EXPECT_EQ(slider.out.find("TIME_KEEPER"), std::string::npos);
+}
+
 TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
   Write("m.json", R"({"chart": "AreaGraph", "TitleProps": {"Text": "Model"}})");
   EXPECT_EQ(Orvane({"build", "m.json", "-o", "m.wrl"}).status, 0);
@@ -216,6 +230,13 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
        1,
        "negative.csv:2:3: the value -1 is negative\n"},
       {{"chart", "pie", "t.csv", "--style", "flat", "-o", "o.wrl"}, 2, "--style: flat not in {"},
+      {{"chart", "scatter", "t.csv", "-o", "o.wrl"},
+       1,
+       "t.csv:1:6: the header names no x column\n"},
+      {{"chart", "scatter", "t.csv", "-o", "o.wrl", "--frame-seconds", "0.9"},
+       2,
+       "--frame-seconds: 0.9 is not a number from 1 to 3600\n"},
+      {{"chart", "scatter", "t.csv", "-o", "o.wrl", "--loop", "twice"}, 2, "--loop: "},
       {{"types", "Nothing"}, 2, "there is no class \"Nothing\"\n"},
   };
   for (const Rejected& rejected : cases) {

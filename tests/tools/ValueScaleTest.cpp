@@ -47,6 +47,29 @@ TEST(RoundScale, ReachesRoundNumbersAroundTheValuesAndZero) {
   }
 }
 
+TEST(TightScale, LeavesZeroOutUnlessValuesLieTooClose) {
+  const Range ranges[] = {
+      {27.8, 82.5, 20, 90, 7, "#,##0", ""},
+      {1955, 2005, 1950, 2010, 6, "#,##0", ""},
+      {-3e7, -1.2e7, -30, -10, 4, "#,##0", "× 1,000,000"},
+      {-2, 5, -2, 5, 7, "#,##0", ""},
+      {0, 0, 0, 1, 4, "#,##0.00", ""},
+      {7, 7, 0, 7, 7, "#,##0", ""},
+      {-7, -7, -7, 0, 7, "#,##0", ""},
+      {1000, 1000.05, 0, 1200, 6, "#,##0", ""},
+      {-1e308, 1e308, -100, 100, 4, "#,##0", "× 1e306"},
+  };
+  for (const Range& range : ranges) {
+    const ValueScale scale = TightScale(range.lowest, range.highest, 7);
+    SCOPED_TRACE(range.highest);
+    EXPECT_EQ(scale.low, range.low);
+    EXPECT_EQ(scale.high, range.high);
+    EXPECT_EQ(scale.cells, range.cells);
+    EXPECT_EQ(scale.LabelPicture(), range.picture);
+    EXPECT_EQ(scale.UnitText(), range.unit);
+  }
+}
+
 TEST(RoundScale, HoldsForAnyRange) {
   std::mt19937 random(1);
   std::uniform_real_distribution<double> mantissa(-10, 10);

@@ -17,13 +17,18 @@ Style::Style(HostColor background) {
   line = Mix(background, ink, 0.4);
 }
 
-void Move(scene::MFNode& children, double x, double y) {
-  const auto shift = std::make_shared<scene::Transform>();
-  shift->translation.X(Single(x));
-  shift->translation.Y(Single(y));
-  children.CopyTo(shift->children);
+std::shared_ptr<scene::Transform> Wrap(scene::MFNode& children) {
+  auto wrapping = std::make_shared<scene::Transform>();
+  children.CopyTo(wrapping->children);
   children.Clear();
-  children.Append(shift);
+  children.Append(wrapping);
+  return wrapping;
+}
+
+void Move(scene::MFNode& children, double x, double y) {
+  auto& translation = Wrap(children)->translation;
+  translation.X(Single(x));
+  translation.Y(Single(y));
 }
 
 void FaceViewer(const std::shared_ptr<scene::Node>& billboard) {
@@ -49,12 +54,11 @@ void DressTitle(TextInfo& title, const std::string& text, double height, double 
   Move(title.Root()->children, 0, lift);
 }
 
-void DressLegend(LegendInfo& legend, double height, bool useToggles, const Style& style) {
+void DressLegend(ChartLegend& legend, double height, const Style& style) {
   legend.TextHeight(Single(height));
   legend.TextColor(style.ink);
   legend.IsBillboarded(true);
-  FaceViewer(legend.BillboardNode());
-  legend.UseSeriesToggle(useToggles);
+  FaceViewer(legend.Board());
 }
 
 void AddViews(Chart& chart, const std::vector<View>& views) {

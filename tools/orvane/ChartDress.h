@@ -5,7 +5,7 @@
 #include "Color.h"
 #include "Views.h"
 
-#include "orvane/components/LegendInfo.h"
+#include "orvane/components/ChartLegend.h"
 #include "orvane/graphs/Chart.h"
 
 #include <memory>
@@ -27,6 +27,9 @@ struct Style {
   HostColor line;
 };
 
+/// Hangs all of `children` into a Transform that takes their place, and returns it.
+std::shared_ptr<scene::Transform> Wrap(scene::MFNode& children);
+
 /// Moves all that hangs in `children` by (x, y) in their common frame.
 void Move(scene::MFNode& children, double x, double y);
 
@@ -41,7 +44,7 @@ void DressTitle(TextInfo& title, const std::string& text, double height, double 
                 const Style& style);
 
 /// Texts `height` high; the legend faces the viewer.
-void DressLegend(LegendInfo& legend, double height, bool useToggles, const Style& style);
+void DressLegend(ChartLegend& legend, double height, const Style& style);
 
 void AddViews(Chart& chart, const std::vector<View>& views);
 

@@ -6,6 +6,7 @@
 #include "PieChart.h"
 #include "ProtoFiles.h"
 #include "ProtoLocation.h"
+#include "ScatterChart.h"
 #include "SeriesCharts.h"
 #include "Source.h"
 #include "SurfaceCharts.h"
@@ -93,12 +94,8 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
       ->check(CLI::Validator(endsInSeparator, ""));
 }
 
-/// What charts of every kind take. `columns` says what the table holds.
-void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
-  ChartOptions& options = request.options;
-  command.add_option("table", request.table, "CSV table: " + columns)
-      ->required()
-      ->type_name("DATA.csv");
+/// Title and colours, which every chart has.
+void AddLookOptions(CLI::App& command, ChartOptions& options) {
   command.add_option("--title", options.title, "Title above the chart");
 
   const auto isColor = [](const std::string& text) {
@@ -112,7 +109,15 @@ void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string
                                         "Colour behind the chart; texts and lines go with it")
       ->type_name("#rrggbb")
       ->check(CLI::Validator(isColor, ""));
+}
 
+/// What charts of all kinds but points take. `columns` says what the table holds.
+void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
+  ChartOptions& options = request.options;
+  command.add_option("table", request.table, "CSV table: " + columns)
+      ->required()
+      ->type_name("DATA.csv");
+  AddLookOptions(command, options);
   const auto isZero = [](const std::string& text) {
     return text == "zero" ? std::string() : text + " is not zero";
   };
@@ -126,7 +131,7 @@ void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string
   AddOutputOptions(command, request.output);
 }
 
-void AddGridOptions(CLI::App& command, ChartOptions& options) {
+void AddSizeOption(CLI::App& command, ChartOptions& options) {
   const auto isExtent = [](const std::string& text) {
     double extent = 0;
     const bool isNumber = CLI::detail::lexical_cast(text, extent);
@@ -144,6 +149,9 @@ void AddGridOptions(CLI::App& command, ChartOptions& options) {
       ->delimiter(',')
       ->expected(3)
       ->check(CLI::Validator(isExtent, ""));
+}
+
+void AddPopupOption(CLI::App& command, ChartOptions& options) {
   command.add_flag_callback(
       "--no-popups", [&options] { options.usePopups = false; },
       "Leave out the texts shown at a value");
@@ -194,7 +202,8 @@ void AddChartCommand(CLI::App& charts, const std::string& name, const std::strin
   const auto request = std::make_shared<ChartRequest>();
   AddChartOptions(command, *request,
                   "category labels in the first column, series names in the header");
-  AddGridOptions(command, request->options);
+  AddSizeOption(command, request->options);
+  AddPopupOption(command, request->options);
   addOptions(command, request->options);
   command.callback([request, makeChart, &out] {
     WriteWorld(request->output, out, [&] {
@@ -235,6 +244,52 @@ void AddPieCommand(CLI::App& charts, std::ostream& out) {
     WriteWorld(request->output, out, [&] {
       const auto shares = ReadPieTable(Source::Read(request->table), request->options.missing);
       return MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
+    });
+  });
+}
+
+void AddScatterCommand(CLI::App& charts, std::ostream& out) {
+  struct Request {
+    std::string table;
+    ScatterOptions options;
+    WorldOutput output;
+  };
+  CLI::App& command = *charts.add_subcommand("scatter", "Points in space, still or animated");
+  const auto request = std::make_shared<Request>();
+  ScatterOptions& options = request->options;
+  command
+      .add_option("table", request->table,
+                  "CSV table: columns x, y, z, and if need be size, color or group, and frame")
+      ->required()
+      ->type_name("DATA.csv");
+  AddLookOptions(command, options);
+  AddSizeOption(command, options);
+  AddChoice<AnimationStyle>(
+      command, "--animate", options.animation,
+      {{"smooth", AnimationStyle::VRML_ANALOG}, {"slider", AnimationStyle::VRML_DISCRETE}},
+      "smooth|slider", "Points that move, or a slider that picks the frame; left out, smooth");
+  AddChoice<LoopStyle>(command, "--loop", options.loop,
+                       {{"continuous", LoopStyle::VRML_LOOP_CONTINUOUS},
+                        {"break", LoopStyle::VRML_LOOP_BREAK},
+                        {"back-and-forth", LoopStyle::VRML_BACK_AND_FORTH},
+                        {"none", LoopStyle::VRML_NO_LOOP}},
+                       "continuous|break|back-and-forth|none",
+                       "What points do after the last frame; left out, break");
+  const auto isGap = [](const std::string& text) {
+    double seconds = 0;
+    const bool isNumber = CLI::detail::lexical_cast(text, seconds);
+    return isNumber && seconds >= 1 && seconds <= 3600 ? std::string()
+                                                       : text + " is not a number from 1 to 3600";
+  };
+  command
+      .add_option("--frame-seconds", options.frameSeconds,
+                  "Time from one frame to the next; left out, 1")
+      ->type_name("S")
+      ->check(CLI::Validator(isGap, ""));
+  AddOutputOptions(command, request->output);
+  command.callback([request, &out] {
+    WriteWorld(request->output, out, [&] {
+      return ScatterWorld(ReadPointTable(Source::Read(request->table)), request->options);
     });
   });
 }
@@ -323,6 +378,7 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
         return MakeRibbonSurfaceChart(table, ReadSurface(options), options);
       },
       AddSurfaceOptions);
+  AddScatterCommand(charts, out);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
   AddSettingsCommand(app, out);

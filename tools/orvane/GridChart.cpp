@@ -1,14 +1,12 @@
 #include "GridChart.h"
 
-#include "ChartDress.h"
+#include "GridDress.h"
 #include "Palette.h"
 
 #include "orvane/control/OrvaneScaler.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace orvane::tool {
@@ -20,56 +18,11 @@ constexpr HostColor kWhite = 0xFFFFFF;
 
 float Single(double value) { return static_cast<float>(value); }
 
-std::shared_ptr<scene::Transform> TransformIn(const scene::MFNode& children, int index) {
-  return std::dynamic_pointer_cast<scene::Transform>(children.Item(index));
-}
-
-/// Puts the labels of `axis` on the middle of their cells or lines. Its chart puts the first
-/// baseline half a height above that; capitals and digits, 0.7 of the height, are in the middle
-/// when the baseline is 0.35 below it.
-void CentreLabels(const Axis& axis, const LabelColumn& labels) {
-  TransformIn(axis.Root()->children, 1)->translation.Y(Single(-0.85 * labels.height));
-}
-
-/// Moves the header of `axis` out by `distance`, away from the labels, and, like the labels, half a
-/// height along the axis.
-void MoveHeader(const Axis& axis, double distance, const LabelColumn& labels) {
-  Move(TransformIn(axis.Root()->children, 2)->children, labels.height / 2, -distance);
-}
-
-void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
-               const GridLayout& layout, const Style& style) {
-  axis.LabelHeight(Single(labels.height));
-  axis.LabelColor(style.ink);
-  axis.LabelFont(VRMLFontFamily::VRML_SANS);
-  axis.Header(header);
-  axis.HeaderHeight(Single(layout.textHeight));
-  axis.HeaderColor(style.ink);
-  axis.HeaderFont(VRMLFontFamily::VRML_SANS);
-  axis.HeaderStyle(VRMLFontStyle::VRML_BOLD);
-  CentreLabels(axis, labels);
-
-  // The axis itself counts on narrower letters.
-  double counted = 0;
-  for (const std::string& text : labels.texts) {
-    counted = std::max(counted, 1.1 * EstimateTextWidth(text, Single(labels.height)));
-  }
-  MoveHeader(axis, layout.HeaderDistance(labels) - counted, labels);
-}
-
-void DressGrid(GridGraph& chart, const GridLayout& layout, const Style& style) {
-  GridInfo& grid = *chart.GridProps();
-  grid.Width(layout.size.width);
-  grid.Height(layout.size.height);
-  grid.Depth(layout.size.depth);
+void DressCells(GridInfo& grid, const GridLayout& layout, const Style& style) {
+  DressGrid(grid, layout, std::min(layout.CellWidth(), layout.CellDepth()), style);
   grid.XAxisCellCount(static_cast<int16_t>(layout.xLabels.texts.size()));
   grid.YAxisCellCount(static_cast<int16_t>(layout.scale.cells));
   grid.ZAxisCellCount(static_cast<int16_t>(layout.zLabels.texts.size()));
-  grid.WallColor(style.wall);
-  // Lines that stand close together would hide the walls: the closer, the fainter they are.
-  constexpr double kClear = 0.4;
-  const double pitch = std::min(layout.CellWidth(), layout.CellDepth());
-  grid.LineColor(Mix(style.wall, style.line, std::clamp(pitch / kClear, 0.2, 1.0)));
 }
 
 void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& style) {
@@ -78,11 +31,7 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   DressAxis(*chart.ZAxisProps(), layout.zLabels, "", layout, style);
   for (const auto& text : layout.xLabels.texts) chart.XAxisProps()->Labels().Append(text);
   for (const auto& text : layout.zLabels.texts) chart.ZAxisProps()->Labels().Append(text);
-
-  ContinuousAxis& values = *chart.YAxisProps();
-  values.NumericFormat(layout.scale.LabelPicture());
-  values.Min(Single(layout.scale.low));
-  values.Max(Single(layout.scale.high));
+  DressValues(*chart.YAxisProps(), layout.scale);
 }
 
 /// Colours and size of popups, and whether they are there; `P` is those of series or of surfaces.
@@ -99,17 +48,10 @@ void DressPopups(P& popups, const GridLayout& layout, const ChartOptions& option
 
 void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartOptions& options) {
   const Style style(options.background);
-  const auto [width, height, depth] = layout.size;
-  const Point middle{width / 2.0, height / 2.0, depth / 2.0};
-  DressBackground(chart, options.background);
-  DressGrid(chart, layout, style);
+  DressCells(*chart.GridProps(), layout, style);
   DressAxes(chart, layout, style);
-  DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight, layout.titleLift, layout.titleZ,
-             style);
-  DressLegend(*chart.LegendProps(), layout.legend.height, options.useToggles, style);
-  AddViews(chart, ViewsOf(SubjectOf(layout)));
-  AddLights(chart, middle, 4 * std::hypot(width, height, depth));
-  CentreForExamining(chart, middle);
+  DressAroundGrid(chart, *chart.LegendProps(), layout, SubjectOf(layout), options);
+  chart.LegendProps()->UseSeriesToggle(options.useToggles);
 }
 
 void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,

@@ -27,16 +27,16 @@ LabelColumn LayOutLabels(const std::vector<std::string>& texts, double pitch, do
   return column;
 }
 
-std::vector<std::string> NumbersOf(const ValueScale& scale) {
-  std::vector<std::string> texts;
-  for (int i = 0; i <= scale.cells; ++i) {
-    texts.push_back(
-        FormatNumber(static_cast<float>(scale.high - i * scale.step), scale.LabelPicture()));
-  }
-  return texts;
-}
-
 }  // namespace
+
+LabelColumn LayOutNumbers(const ValueScale& scale, double extent, double wanted) {
+  LabelColumn column{{}, std::min(wanted, kFill * extent / scale.cells)};
+  for (int i = 0; i <= scale.cells; ++i) {
+    const double value = scale.high - i * scale.step;
+    column.texts.push_back(FormatNumber(static_cast<float>(value), scale.LabelPicture()));
+  }
+  return column;
+}
 
 double LabelColumn::Width() const {
   double widest = 0;
@@ -86,25 +86,36 @@ GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const Gri
   GridLayout layout;
   layout.size = options.size.value_or(usual);
   layout.scale = scale;
-  layout.title = options.title;
   layout.xHeader = Label(texts.xHeader);
   layout.yHeader = layout.scale.UnitText();
 
   const auto [width, height, depth] = layout.size;
   const double cellWidth = width / static_cast<double>(texts.x.size());
-  const double cellHeight = height / static_cast<double>(layout.scale.cells);
   const double cellDepth = depth / static_cast<double>(texts.z.size());
 
   layout.textHeight = 0.032 * std::hypot(width, height, depth);
   layout.xLabels = LayOutLabels(texts.x, cellWidth, layout.textHeight);
-  layout.yLabels = LayOutLabels(NumbersOf(layout.scale), cellHeight, layout.textHeight);
+  layout.yLabels = LayOutNumbers(layout.scale, height, layout.textHeight);
   layout.zLabels = LayOutLabels(texts.z, cellDepth, layout.textHeight);
 
-  // All entries are shown, if need be small: each has its check box.
-  for (const std::string& name : texts.legend) layout.legend.texts.push_back(Label(name));
-  const double legendPitch = 0.9 * height / static_cast<double>(texts.legend.size());
-  layout.legend.height = std::min(layout.textHeight, legendPitch / kLegendPitch);
+  LayOutTitleAndLegend(layout, options.title, texts.legend);
+  return layout;
+}
 
+void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
+                          const std::vector<std::string>& names) {
+  const double width = layout.size.width;
+  const double height = layout.size.height;
+
+  // All entries are shown, if need be small: each may have its check box.
+  layout.legend.height = layout.textHeight;
+  if (!names.empty()) {
+    const double pitch = 0.9 * height / static_cast<double>(names.size());
+    layout.legend.height = std::min(layout.textHeight, pitch / kLegendPitch);
+  }
+  for (const std::string& name : names) layout.legend.texts.push_back(Label(name));
+
+  layout.title = title;
   layout.titleHeight = 1.8 * layout.textHeight;
   if (const double titleWidth = TextWidth(layout.title, 1); titleWidth > 0) {
     const double fitting = 1.3 * width / titleWidth;
@@ -115,7 +126,6 @@ GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const Gri
   const double overWall = std::min(TextWidth(layout.title, layout.titleHeight) / 2, 0.4 * width);
   layout.titleLift = std::max(0.0, 0.26 * overWall + 0.3 * layout.titleHeight - 0.1 * height);
   layout.titleZ = std::min(0.0, 0.25 * height - layout.LegendHeight());
-  return layout;
 }
 
 Subject SubjectOf(const GridLayout& layout) {
@@ -134,8 +144,8 @@ Subject SubjectOf(const GridLayout& layout) {
   }
 
   // Category labels lie in front of the grid and to the right of it, the header beyond them.
-  const double front = 1.02 * depth;
-  const double right = 1.02 * width;
+  const double front = kFront * depth + layout.labelGap;
+  const double right = 1.02 * width + layout.labelGap;
   for (const double x : {0.0, width}) {
     subject.points.push_back({x, 0, front + layout.xLabels.Width()});
   }
@@ -147,10 +157,16 @@ Subject SubjectOf(const GridLayout& layout) {
     subject.points.push_back({x, 0, front + layout.HeaderDistance(layout.xLabels) + text});
   }
 
+  if (const double zHeader = TextWidth(layout.zHeader, text) / 2; zHeader > 0) {
+    for (const double z : {depth / 2 - zHeader, depth / 2 + zHeader}) {
+      subject.points.push_back({right + layout.HeaderDistance(layout.zLabels) + text, 0, z});
+    }
+  }
+
   // Value labels extend from the front left edge in the direction halfway between left and front.
   const auto addBesideEdge = [&](double distance, double y) {
-    const double along = distance / std::numbers::sqrt2;
-    subject.points.push_back({-0.02 * width - along, y, front + along});
+    const double along = (layout.labelGap + distance) / std::numbers::sqrt2;
+    subject.points.push_back({-0.02 * width - along, y, kFront * depth + along});
   };
   for (const double y : {-text / 2, height + text / 2}) addBesideEdge(layout.yLabels.Width(), y);
   const double yHeader = TextWidth(layout.yHeader, text) / 2;
@@ -166,6 +182,7 @@ Subject SubjectOf(const GridLayout& layout) {
                              -0.25 * layout.titleHeight,
                              layout.titleHeight});
   }
+  if (layout.legend.texts.empty()) return subject;
   // Check box, key and text stand side by side.
   const double legendWidth = 2.3 * layout.legend.height + layout.legend.Width();
   subject.signs.push_back(

@@ -40,10 +40,12 @@ struct GridLayout {
   LabelColumn legend;
   std::string xHeader;
   std::string yHeader;  ///< The unit of the values, when it is not 1.
+  std::string zHeader;
   std::string title;
   double titleHeight = 0;
   double titleLift = 0;   ///< Above its usual place, clear of the wall when seen from the corner.
   double titleZ = 0;      ///< Behind the back wall, clear of a tall legend when seen from the top.
+  double labelGap = 0;    ///< Between grid and labels, beyond what their chart leaves.
   double textHeight = 0;  ///< Of headers and popups, and of labels that have the room.
 
   double CellWidth() const { return size.width / static_cast<double>(xLabels.texts.size()); }
@@ -54,6 +56,18 @@ struct GridLayout {
     return labels.Width() + 0.4 * textHeight;
   }
 };
+
+/// Where labels in front of the grid begin, in depths of the grid, at most.
+inline constexpr double kFront = 1.05;
+
+/// The labels of an axis of values that is `extent` long, from the highest down, as high as
+/// `wanted` where there is room.
+LabelColumn LayOutNumbers(const ValueScale& scale, double extent, double wanted);
+
+/// Sizes and places of the title, and of a legend with an entry for each of `names`; the extents
+/// and textHeight of `layout` are given.
+void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
+                          const std::vector<std::string>& names);
 
 /// The layout for `table`: categories along x, values along y, one series a cell along z, or all in
 /// one cell when they are grouped.

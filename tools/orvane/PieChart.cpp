@@ -73,7 +73,8 @@ void PlaceTexts(PieGraph& chart, const PieLayout& layout, bool useToggles, const
   DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight,
              layout.titleY - 2 * layout.height, layout.titleZ, style);
   LegendInfo& legend = *chart.LegendProps();
-  DressLegend(legend, layout.legendTextHeight, useToggles, style);
+  DressLegend(legend, layout.legendTextHeight, style);
+  legend.UseSeriesToggle(useToggles);
   Move(legend.Root()->children, layout.legendPlace.x - 1.4 * layout.radius,
        layout.legendPlace.y - 0.2 * layout.height);
 }

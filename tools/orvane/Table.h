@@ -1,6 +1,4 @@
-/// A table of numbers read from CSV (RFC 4180): categories down, series across.
-///
-/// Read here rather than with a package so that every complaint names its line and column.
+/// A table of numbers read from CSV: categories down, series across.
 #pragma once
 
 #include "Source.h"
@@ -40,9 +38,7 @@ inline constexpr std::int16_t kMostCells = 32766;
 
 /// Reads a table whose first column holds category labels and whose header names the series.
 ///
-/// Cells may be quoted; lines end in LF, CRLF or CR; empty lines are no rows. Numbers are decimal,
-/// with "." and an optional exponent, blanks around them ignored. Raises FileError for anything
-/// else, naming line and column.
+/// Raises FileError, naming line and column, for anything else.
 Table ReadTable(const Source& source, MissingCell missing);
 
 }  // namespace orvane::tool

@@ -20,10 +20,11 @@ int ExponentOf(double magnitude) {
   return 3 * static_cast<int>(std::floor(std::log10(magnitude) / 3));
 }
 
-/// The scale with the smallest step that reaches from `lowest` to `highest`.
+/// The scale with the smallest step that reaches from `lowest` to `highest` in at most `mostCells`
+/// cells.
 ValueScale ScaleOver(double lowest, double highest, int mostCells) {
   ValueScale scale;
-  scale.exponent = ExponentOf(std::max(-lowest, highest));
+  scale.exponent = ExponentOf(std::max(std::abs(lowest), std::abs(highest)));
   lowest = scale.InUnits(lowest);
   highest = scale.InUnits(highest);
   if (lowest == highest) return scale;
@@ -69,6 +70,16 @@ std::string ValueScale::UnitText() const {
 
 ValueScale RoundScale(double lowest, double highest, int mostCells) {
   return ScaleOver(std::min(lowest, 0.0), std::max(highest, 0.0), mostCells);
+}
+
+ValueScale TightScale(double lowest, double highest, int mostCells) {
+  // Closer together, values could not be told apart by labels that are 32-bit floats.
+  constexpr double kLeastRange = 1e-4;
+  const double magnitude = std::max(std::abs(lowest), std::abs(highest));
+  if (highest / magnitude - lowest / magnitude < kLeastRange) {
+    return RoundScale(lowest, highest, mostCells);
+  }
+  return ScaleOver(lowest, highest, mostCells);
 }
 
 ValueScale FittedScale(double lowest, double highest, int mostCells) {

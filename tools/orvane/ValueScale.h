@@ -18,6 +18,8 @@ struct ValueScale {
 
   /// `value` of the table in units of the axis.
   double InUnits(double value) const;
+  /// Where `value` of the table stands between low, 0, and high, 1.
+  double Share(double value) const { return (InUnits(value) - low) / (high - low); }
   /// Format picture of the labels: "#,##0.00".
   std::string LabelPicture() const;
   /// What to write beside the axis: "× 1,000,000"; empty when the unit is 1.
@@ -27,6 +29,9 @@ struct ValueScale {
 /// The scale with the smallest step that reaches from `lowest` to `highest` and 0 in at most
 /// `mostCells` (2 or more) cells. Both values are finite; a table of zeros gets 0 to 1.
 ValueScale RoundScale(double lowest, double highest, int mostCells);
+
+/// The same without the 0, unless the values lie so close together that only 0 gives them a scale.
+ValueScale TightScale(double lowest, double highest, int mostCells);
 
 /// The same without 0 where the values are far from it, as heights above the sea may be: it would
 /// leave them less than six tenths of the axis. Values that are all but equal keep the 0.

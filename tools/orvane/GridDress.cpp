@@ -1,0 +1,81 @@
+#include "GridDress.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace orvane::tool {
+namespace {
+
+float Single(double value) { return static_cast<float>(value); }
+
+std::shared_ptr<scene::Transform> TransformIn(const scene::MFNode& children, int index) {
+  return std::dynamic_pointer_cast<scene::Transform>(children.Item(index));
+}
+
+/// Puts the labels of `axis` on the middle of their cells or lines. Its chart puts the first
+/// baseline half a height above that; capitals and digits, 0.7 of the height, are in the middle
+/// when the baseline is 0.35 below it.
+void CentreLabels(const Axis& axis, const LabelColumn& labels) {
+  TransformIn(axis.Root()->children, 1)->translation.Y(Single(-0.85 * labels.height));
+}
+
+/// Moves the header of `axis` out by `distance`, away from the labels, and, like the labels, half a
+/// height along the axis.
+void MoveHeader(const Axis& axis, double distance, const LabelColumn& labels) {
+  Move(TransformIn(axis.Root()->children, 2)->children, labels.height / 2, -distance);
+}
+
+}  // namespace
+
+void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout,
+                     const Subject& subject, const ChartOptions& options) {
+  const Style style(options.background);
+  const auto [width, height, depth] = layout.size;
+  const Point middle{width / 2.0, height / 2.0, depth / 2.0};
+  DressBackground(chart, options.background);
+  DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight, layout.titleLift, layout.titleZ,
+             style);
+  DressLegend(legend, layout.legend.height, style);
+  AddViews(chart, ViewsOf(subject));
+  AddLights(chart, middle, 4 * std::hypot(width, height, depth));
+  CentreForExamining(chart, middle);
+}
+
+void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style) {
+  grid.Width(layout.size.width);
+  grid.Height(layout.size.height);
+  grid.Depth(layout.size.depth);
+  grid.WallColor(style.wall);
+  // Lines that stand close together would hide the walls.
+  constexpr double kClear = 0.4;
+  grid.LineColor(Mix(style.wall, style.line, std::clamp(pitch / kClear, 0.2, 1.0)));
+}
+
+void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
+               const GridLayout& layout, const Style& style) {
+  axis.LabelHeight(Single(labels.height));
+  axis.LabelColor(style.ink);
+  axis.LabelFont(VRMLFontFamily::VRML_SANS);
+  axis.Header(header);
+  axis.HeaderHeight(Single(layout.textHeight));
+  axis.HeaderColor(style.ink);
+  axis.HeaderFont(VRMLFontFamily::VRML_SANS);
+  axis.HeaderStyle(VRMLFontStyle::VRML_BOLD);
+  CentreLabels(axis, labels);
+
+  // The axis itself counts on narrower letters.
+  double counted = 0;
+  for (const std::string& text : labels.texts) {
+    counted = std::max(counted, 1.1 * EstimateTextWidth(text, Single(labels.height)));
+  }
+  MoveHeader(axis, layout.HeaderDistance(labels) - counted, labels);
+}
+
+void DressValues(ContinuousAxis& axis, const ValueScale& scale) {
+  axis.NumericFormat(scale.LabelPicture());
+  axis.Min(Single(scale.low));
+  axis.Max(Single(scale.high));
+}
+
+}  // namespace orvane::tool

@@ -1,0 +1,34 @@
+/// What every chart over a grid gets from the program, whatever stands on the grid.
+#pragma once
+
+#include "ChartDress.h"
+#include "ChartOptions.h"
+#include "GridLayout.h"
+
+#include "orvane/components/Axis.h"
+#include "orvane/components/ContinuousAxis.h"
+#include "orvane/components/GridInfo.h"
+
+#include <string>
+
+namespace orvane::tool {
+
+/// Sky, title, legend, viewpoints and lights. Afterwards the middle of the grid is the origin of
+/// the world, about which viewers turn it.
+///
+/// `subject` is all that has to be in view, in the frame of the grid.
+void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout,
+                     const Subject& subject, const ChartOptions& options);
+
+/// Extents and colours. Lines are fainter, the closer together they stand: `pitch` is the least
+/// distance between two of them.
+void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style);
+
+/// Texts, sizes and colours of an axis, its labels in the middle of their cells or on their lines.
+void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
+               const GridLayout& layout, const Style& style);
+
+/// Range and number format of the labels.
+void DressValues(ContinuousAxis& axis, const ValueScale& scale);
+
+}  // namespace orvane::tool
