@@ -120,11 +120,24 @@ class View {
     ), { path, field });
   }
 
-  // Sends a node's MFFloat or MFVec3f field new values, as a ROUTE would.
-  async send(path, field, values) {
-    await this.#inScene(({ find, sendValues }, { path, field, values }) => (
-      sendValues(find(path).at(-1), field, values)
-    ), { path, field, values });
+  // The values of several fields, [path, field] each, in every frame from now on for `seconds`.
+  watch(fields, seconds) {
+    return this.#inScene(async ({ find, plain }, { fields, seconds }) => {
+      const watched = fields.map(([path, field]) => find(path).at(-1).getField(field));
+      const frames = [];
+      for (const end = Date.now() + 1000 * seconds; Date.now() < end;) {
+        await new Promise(requestAnimationFrame);
+        frames.push(watched.map(plain));
+      }
+      return frames;
+    }, { fields, seconds });
+  }
+
+  // Sends a field of a node a new value, as a ROUTE would: an array for an MFFloat or MFVec3f.
+  async send(path, field, value) {
+    await this.#inScene(({ find, send }, { path, field, value }) => (
+      send(find(path).at(-1), field, value)
+    ), { path, field, value });
     await this.still();
   }
 
@@ -172,6 +185,14 @@ class View {
 
   async click(place) {
     await this.press(place);
+    await this.release();
+  }
+
+  // Presses at one place, moves to another in small steps, and lets go there.
+  async drag(from, to) {
+    await this.press(from);
+    await this.page.mouse.move(to.x, to.y, { steps: 12 });
+    await this.page.waitForTimeout(2 * REST);
     await this.release();
   }
 
@@ -291,10 +312,14 @@ function sceneTools(X3D, canvas) {
     return [...field].map((element) => (typeof element === 'object' ? [...element] : element));
   }
 
-  function sendValues(node, field, values) {
+  function send(node, field, value) {
     const target = node.getField(field);
-    const elements = values.map((value) => (
-      Array.isArray(value) ? new X3D.SFVec3f(...value) : value));
+    if (!Array.isArray(value)) {
+      target.setValue(value);
+      return;
+    }
+    const elements = value.map((element) => (
+      Array.isArray(element) ? new X3D.SFVec3f(...element) : element));
     target.assign(new X3D[target.getTypeName()](...elements));
   }
 
@@ -310,5 +335,5 @@ function sceneTools(X3D, canvas) {
       node.getTypeName() === 'Text' ? [...node.getField('string')] : drawnTexts(chosen(node))));
   }
 
-  return { find, place, plain, sendValues, chosen, drawnTexts };
+  return { find, place, plain, send, chosen, drawnTexts };
 }

@@ -101,8 +101,8 @@ TEST_F(Scatter, TakesAtLeastASecondAFrame) {
 
 struct Cycle {
   LoopStyle style;
-  double gap;
   int frames;
+  double gap;
   std::vector<float> sequence;
   std::vector<float> keys;
   double seconds;
@@ -113,22 +113,22 @@ TEST_F(Scatter, PassesItsFramesAsItsLoopStyleSays) {
   using enum LoopStyle;
   // Keys are sums of the step, or multiples of it, in 32-bit arithmetic: the last digits differ.
   const Cycle cycles[] = {
-      {VRML_NO_LOOP, 2.5, 2, {1, 2}, {0, 0.99F}, 2.5, false},
-      {VRML_LOOP_BREAK, 2.5, 2, {1, 2}, {0, 0.99F}, 2.5, true},
-      {static_cast<LoopStyle>(7), 1, 3, {1, 2, 3}, {0, 0.495F, 0.99F}, 2, false},
+      {VRML_NO_LOOP, 2, 2.5, {1, 2}, {0, 0.99F}, 2.5, false},
+      {VRML_LOOP_BREAK, 2, 2.5, {1, 2}, {0, 0.99F}, 2.5, true},
+      {static_cast<LoopStyle>(7), 3, 1, {1, 2, 3}, {0, 0.495F, 0.99F}, 2, false},
       {VRML_LOOP_BREAK,
-       1.5,
        8,
+       1.5,
        {1, 2, 3, 4, 5, 6, 7, 8},
        {0, 0.141428575F, 0.28285715F, 0.42428571F, 0.5657143F, 0.707142889F, 0.84857142F,
         0.99000001F},
        10.5,
        true},
       {VRML_BACK_AND_FORTH, 3, 3, {1, 2, 3, 2, 1}, {0, 0.2475F, 0.495F, 0.7425F, 0.99F}, 12, true},
-      {VRML_LOOP_CONTINUOUS, 1.1, 3, {1, 2, 3, 1}, {0, 0.33F, 0.66F, 0.99F}, 3 * 1.1, true},
+      {VRML_LOOP_CONTINUOUS, 3, 1.1, {1, 2, 3, 1}, {0, 0.33F, 0.66F, 0.99F}, 3 * 1.1, true},
       {VRML_LOOP_CONTINUOUS,
-       1,
        7,
+       1,
        {1, 2, 3, 4, 5, 6, 7, 1},
        {0, 0.141428575F, 0.28285715F, 0.42428571F, 0.5657143F, 0.707142889F, 0.848571479F,
         0.990000069F},
