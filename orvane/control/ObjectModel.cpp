@@ -65,6 +65,7 @@ std::shared_ptr<host::Object> CreateChart(std::string_view className) {
 std::shared_ptr<host::Object> CreateObject(std::string_view className) {
   if (auto chart = CreateChart(className)) return chart;
   const auto isIt = [=](std::string_view name) { return host::EqualNoCase(name, className); };
+  if (isIt(OrvaneTemplateCtl::kClassName)) return std::make_shared<OrvaneTemplateCtl>();
   if (isIt(OrvaneScaler::kClassName)) return std::make_shared<OrvaneScaler>();
   const auto factory = scene::CoreFactory();
   for (const auto& name : factory->NodeTypes()) {

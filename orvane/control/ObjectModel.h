@@ -16,8 +16,8 @@ ORVANE_API std::vector<std::shared_ptr<host::Object>> ObjectModel();
 /// A new chart of class `className`, such as "AreaGraph", in any case; nullptr when there is none.
 ORVANE_API std::shared_ptr<host::Object> CreateChart(std::string_view className);
 
-/// A new object of a class that hosts make themselves, by name in any case: a chart, a scaler, a
-/// node or a field. nullptr for what only a chart makes, and where there is no such class.
+/// A new object of a class that hosts make themselves, by name in any case: the control, a chart, a
+/// scaler, a node or a field. nullptr for what only these make, and where there is no such class.
 ORVANE_API std::shared_ptr<host::Object> CreateObject(std::string_view className);
 
 }  // namespace orvane

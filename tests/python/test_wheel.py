@@ -4,6 +4,7 @@ package stands on its own, its example and the code in docs/python.md run, its s
 import os
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -45,10 +46,10 @@ class Wheel(unittest.TestCase):
             raise AssertionError(f"{command} ended with {done.returncode}:\n{done.stdout}")
         return done.stdout
 
-    def mypy(self, file, status=0):
+    def mypy(self, *what, status=0):
         return self.run_program(
             "/usr/bin/mypy", "--strict", "--python-executable", self.python,
-            "--cache-dir", self.folder / "mypy", file, status=status,
+            "--cache-dir", self.folder / "mypy", *what, status=status,
         )
 
     def test_loads_its_own_library_and_carries_the_proto_files(self):
@@ -91,7 +92,13 @@ class Wheel(unittest.TestCase):
         self.assertTrue((self.folder / "rain.wrl").exists())
         self.mypy(self.folder / "minute.py")
 
-    def test_stubs_know_the_example_and_find_misuse(self):
+    def test_stubs_are_sound_know_the_example_and_find_misuse(self):
+        # mypy says nothing of what is wrong in an installed package.
+        (stub,) = self.folder.glob("venv/lib/*/site-packages/orvane/__init__.pyi")
+        (self.folder / "orvane").mkdir()
+        shutil.copy(stub, self.folder / "orvane")
+        self.mypy("-p", "orvane")
+        shutil.rmtree(self.folder / "orvane")
         self.mypy(EXAMPLE)
         (self.folder / "misuse.py").write_text(MISUSE, "utf-8")
         found = self.mypy(self.folder / "misuse.py", status=1)
