@@ -78,6 +78,7 @@ void DressGridSurface(SurfaceInfo& surface, std::size_t index, const Table& data
                       RowsAlong rowsAlong, const GridLayout& layout, const ChartOptions& options) {
   const HostColor color = SeriesColor(index);
   surface.Material()->diffuseColor.Value(color);
+  surface.Material()->ambientIntensity.Value(0.4F);  // The lower side gets no other light.
   surface.WireColor(Mix(color, kDarkInk, 0.6));
   surface.LegendText(layout.legend.texts[index]);
 

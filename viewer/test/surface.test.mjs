@@ -25,6 +25,13 @@ Winter,61,22,8
 `;
 const PLAN = TABLE.replace('Quarter', 'Plan');
 
+// More points each way than the popups have cells.
+const RANGE = [...Array(40).keys()];
+const LARGE = [
+  `Height,${RANGE.map((i) => `c${i}`)}`,
+  ...RANGE.map((k) => `r${k},${RANGE.map((i) => 3 + Math.sin(i / 9) * Math.cos(k / 7))}`),
+].join('\n');
+
 // A surface that rises towards the viewer, who sees it from below.
 const BELOW = {
   chart: 'SurfaceGraph',
@@ -62,9 +69,11 @@ before(async () => {
     promisify(execFile)(resolve(process.env.ORVANE), args, { cwd: folder })
   );
   for (const [name, text] of Object.entries({
-    'grid.csv': GRID, 'table.csv': TABLE, 'plan.csv': PLAN, 'below.json': JSON.stringify(BELOW),
+    'grid.csv': GRID, 'large.csv': LARGE, 'table.csv': TABLE, 'plan.csv': PLAN,
+    'below.json': JSON.stringify(BELOW),
   })) await writeFile(join(folder, name), text);
   await orvane('chart', 'surface', 'grid.csv', '-o', 'surface.wrl');
+  await orvane('chart', 'surface', 'large.csv', '-o', 'large.wrl');
   for (const kind of ['column', 'ribbon']) {
     const out = `${kind}s.wrl`;
     await orvane('chart', `${kind}-surface`, 'table.csv', '--surface', 'plan.csv', '-o', out);
@@ -126,6 +135,14 @@ test('a popup shows the text of the point under the pointer, follows it and goes
   await view.move(ASIDE);
   assert.equal(await shown('Height: '), false, 'a popup has stayed');
   assert.ok((await changed(before)) < SAME, 'the picture is not what it was');
+});
+
+test('a popup tells the points of a large surface apart', async () => {
+  await open('large.wrl');
+  for (const [x, z] of [[30, 30], [31, 30], [31, 29], [10, 10]]) {
+    await view.move(await pointAt(x, z));
+    assert.ok(await shown(`r${z}, c${x}\n`), `no r${z}, c${x} among ${await view.texts()}`);
+  }
 });
 
 test('a popup follows a pointer that is quick enough to come upon it', async () => {
