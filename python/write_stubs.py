@@ -20,6 +20,7 @@ _Read = TypeVar("_Read", covariant=True)
 _Let = TypeVar("_Let", contravariant=True)
 _Entry = TypeVar("_Entry")
 
+__all__: list[str]
 ProtoFolder: Path
 
 def WriteProtos(folder: str | PathLike[str]) -> None: ...
@@ -115,7 +116,7 @@ def property_(member, text):
     if _classes._is_list(member):
         taken = ENTRIES.get(member.type.name, "Iterable[Any]")
         return attribute(member.name, f"_Property[{given}, {taken}]", text)
-    if given != taken:
+    if member.is_let and given != taken:
         return attribute(member.name, f"_Property[{given}, {taken}]", text)
     lines = ["    @property", f"    def {member.name}(self) -> {given}:", *documented(text), "        ..."]
     if member.is_let:

@@ -44,6 +44,7 @@ def rain_slices(chart: Any) -> None:
     """A slice for each year's share of the rain."""
     total = sum(sum(millimetres) for millimetres in RAIN.values())
     chart.SliceCount = len(RAIN)
+    chart.radius = 6
     for number, (year, millimetres) in enumerate(RAIN.items(), start=1):
         slice = chart.GetSlice(number)
         slice.Percentage = sum(millimetres) / total
@@ -70,13 +71,15 @@ def hill_or_cloud(chart: Any) -> None:
     chart.SurfaceCount = 1
     surface = chart.GetSurface(1)
     surface.LegendText = "surface"
-    surface.Material.diffuseColor.Value = COLORS[2]
+    surface.Material.diffuseColor.Value = 0xA779CC
     if hasattr(surface, "PointList"):
         draw = random.Random(1)
         surface.PointList.Items = [
             (draw.gauss(0.4, 0.15) * grid.Width, draw.gauss(0.6, 0.15) * grid.Depth) for _ in range(200)
         ]
         return
+    if not hasattr(chart, "GetSeries"):
+        grid.XAxisCellCount, grid.ZAxisCellCount = 16, 12
     columns, rows = grid.XAxisCellCount, grid.ZAxisCellCount
     for x in range(1, columns + 1):
         for z in range(1, rows + 1):
@@ -93,6 +96,11 @@ FILL = {
 }
 
 
+def chart_axes(chart: Any) -> list[Any]:
+    names = ["XAxisProps", "YAxisProps", "ZAxisProps"]
+    return [getattr(chart, name) for name in names if hasattr(chart, name)]
+
+
 def make(name: str) -> Any:
     chart = getattr(orvane, name)()
     chart.BackgroundProps.BackgroundColor = 0x3A2410
@@ -102,14 +110,20 @@ def make(name: str) -> Any:
     if hasattr(chart, "GridProps"):
         grid = chart.GridProps
         grid.Width, grid.Height, grid.Depth = 12, 6, 8
-        for axis in chart.XAxisProps, chart.YAxisProps, chart.ZAxisProps:
-            axis.LabelHeight = 0.4
+    for axis in chart_axes(chart):
+        axis.LabelHeight = 0.4
     for member, fill in FILL.items():
         if hasattr(chart, member):
             fill(chart)
+    for axis in chart_axes(chart):
+        if hasattr(axis, "Max") and axis.Max == 0:
+            axis.Max, axis.NumericFormat = 1, "0.00"
+    light = chart.Lights.AddLightSource()
+    light.location.X, light.location.Y, light.location.Z = 6, 20, 20
+    light.intensity.Value, light.ambientIntensity.Value = 0.4, 0.4
     view = chart.Viewpoints.AddViewpoint()
     view.description.Value = "Corner"
-    view.position.X, view.position.Y, view.position.Z = 17, 11, 22
+    view.position.X, view.position.Y, view.position.Z = 17, 10, 22
     view.orientation.SetFromAngles(-0.35, 0.6, 0)
     return chart
 

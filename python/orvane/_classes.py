@@ -125,7 +125,7 @@ def _documentation(member):
         lines = [f"{each.name}: {each.type.name}" for each in member.parameters if not each.is_out]
         if member.type.name:
             out = ", ".join(each.name for each in member.parameters if each.is_out)
-            lines.append(f"Returns: {out or member.type.name}")
+            lines.append(f"Returns: {member.type.name}" + (f" ({out})" if out else ""))
         text = "\n".join([text, *([""] if lines else []), *lines])
     return text
 
