@@ -149,6 +149,20 @@ TEST_F(CommandLine, ChartsPoints) {
   EXPECT_EQ(slider.out.find("TIME_KEEPER"), std::string::npos);
 }
 
+TEST_F(CommandLine, ChartsDensitiesAndTellsTheSigmaItTook) {
+  Write("p.csv", "x,z,Kind\n0,0,a\n4,0,a\n0,4,b\n4,4,b\n");
+  const Outcome ruled = Orvane({"chart", "density", "p.csv", "-o", "-"});
+  EXPECT_EQ(ruled.status, 0);
+  EXPECT_TRUE(ruled.err.ends_with(" by Silverman's rule of thumb\n")) << ruled.err;
+  EXPECT_NE(ruled.out.find("SURFACE_2.set_contentsExist"), std::string::npos);
+  const std::string sigma = ruled.err.substr(8, ruled.err.find(' ', 8) - 8);
+  const Outcome given = Orvane({"chart", "density", "p.csv", "--sigma", sigma, "-o", "-"});
+  EXPECT_EQ(given.err, "");
+  EXPECT_TRUE(given.out.starts_with("#VRML V2.0 utf8"));
+  const Outcome wide = Orvane({"chart", "density", "p.csv", "--sigma", "9", "-o", "-"});
+  EXPECT_NE(wide.out, given.out);
+}
+
 TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
   Write("m.json", R"({"chart": "AreaGraph", "TitleProps": {"Text": "Model"}})");
   EXPECT_EQ(Orvane({"build", "m.json", "-o", "m.wrl"}).status, 0);
@@ -230,6 +244,10 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
        1,
        "negative.csv:2:3: the value -1 is negative\n"},
       {{"chart", "pie", "t.csv", "--style", "flat", "-o", "o.wrl"}, 2, "--style: flat not in {"},
+      {{"chart", "density", "bad.csv", "-o", "o.wrl"}, 1, "bad.csv:2:1: \"x\" is not a number\n"},
+      {{"chart", "density", "bad.csv", "-o", "o.wrl", "--sigma", "0"},
+       2,
+       "--sigma: 0 is not a number from 0.001 to 10000\n"},
       {{"chart", "scatter", "t.csv", "-o", "o.wrl"},
        1,
        "t.csv:1:6: the header names no x column\n"},

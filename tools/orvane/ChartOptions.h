@@ -20,6 +20,9 @@ struct GridSize {
 inline constexpr double kLeastExtent = 0.1;
 inline constexpr double kMostExtent = 10000;
 
+/// The narrowest hill that a user may ask for, in scene units.
+inline constexpr double kLeastSigma = 0.001;
+
 struct ChartOptions {
   std::string title;
   std::string surface;  ///< The grid of a combination chart's surface.

@@ -1,6 +1,8 @@
 #include "CommandLine.h"
 
 #include "ChartOptions.h"
+#include "CloudTable.h"
+#include "DensityChart.h"
 #include "ModelBuilder.h"
 #include "Output.h"
 #include "PieChart.h"
@@ -111,6 +113,12 @@ void AddLookOptions(CLI::App& command, ChartOptions& options) {
       ->check(CLI::Validator(isColor, ""));
 }
 
+void AddToggleOption(CLI::App& command, ChartOptions& options) {
+  command.add_flag_callback(
+      "--no-toggles", [&options] { options.useToggles = false; },
+      "Leave out the legend's check boxes");
+}
+
 /// What charts of all kinds but points take. `columns` says what the table holds.
 void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
   ChartOptions& options = request.options;
@@ -125,9 +133,7 @@ void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string
       ->type_name("zero")
       ->check(CLI::Validator(isZero, ""))
       ->each([&options](const std::string&) { options.missing = MissingCell::Zero; });
-  command.add_flag_callback(
-      "--no-toggles", [&options] { options.useToggles = false; },
-      "Leave out the legend's check boxes");
+  AddToggleOption(command, options);
   AddOutputOptions(command, request.output);
 }
 
@@ -294,6 +300,44 @@ void AddScatterCommand(CLI::App& charts, std::ostream& out) {
   });
 }
 
+/// Adds "chart density", which says on `err` which kernel width it took when none was given.
+void AddDensityCommand(CLI::App& charts, std::ostream& out, std::ostream& err) {
+  CLI::App& command =
+      *charts.add_subcommand("density", "Hills where points lie thickly, one for each group");
+  const auto request = std::make_shared<ChartRequest>();
+  const auto sigma = std::make_shared<std::optional<float>>();
+  command
+      .add_option("points", request->table,
+                  "CSV table: x and z of the points and, in a third column, their groups")
+      ->required()
+      ->type_name("POINTS.csv");
+  AddLookOptions(command, request->options);
+  AddSizeOption(command, request->options);
+  AddToggleOption(command, request->options);
+  const auto isWidth = [](const std::string& text) {
+    double width = 0;
+    const bool isNumber = CLI::detail::lexical_cast(text, width);
+    return isNumber && width >= kLeastSigma && width <= kMostExtent
+               ? std::string()
+               : text + " is not a number from 0.001 to 10000";
+  };
+  command
+      .add_option("--sigma", *sigma,
+                  "Width of the hill around a point in scene units;"
+                  " left out, by Silverman's rule of thumb")
+      ->type_name("WIDTH")
+      ->check(CLI::Validator(isWidth, ""));
+  AddOutputOptions(command, request->output);
+  command.callback([request, sigma, &out, &err] {
+    WriteWorld(request->output, out, [&] {
+      const CloudTable clouds = ReadCloudTable(Source::Read(request->table));
+      const auto chart = MakeDensityChart(clouds, *sigma, request->options);
+      if (!*sigma) err << "--sigma " << chart->Sigma() << " by Silverman's rule of thumb\n";
+      return chart->ExportToString(true, true);
+    });
+  });
+}
+
 void AddBuildCommand(CLI::App& app, std::ostream& out) {
   CLI::App& command = *app.add_subcommand("build", "Build a world from a model of its objects");
   const auto model = std::make_shared<std::string>();
@@ -379,6 +423,7 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
       },
       AddSurfaceOptions);
   AddScatterCommand(charts, out);
+  AddDensityCommand(charts, out, err);
   AddBuildCommand(app, out);
   AddProtosCommand(app);
   AddSettingsCommand(app, out);

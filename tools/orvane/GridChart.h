@@ -20,6 +20,9 @@ void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartO
 void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
                      const GridLayout& layout, const ChartOptions& options);
 
+/// Colours and legend entry of the `index`th surface, counted from 0.
+void DressSurface(LatticeSurface& surface, std::size_t index, const GridLayout& layout);
+
 /// Heights, colour, legend entry and popups of a surface over the same grid. `data` has a row for
 /// each cell along `rowsAlong`, and a column for each cell along the other axis; the legend entry
 /// is the layout's `index`th.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 
 namespace orvane::tool {
@@ -76,6 +77,30 @@ void DressValues(ContinuousAxis& axis, const ValueScale& scale) {
   axis.NumericFormat(scale.LabelPicture());
   axis.Min(Single(scale.low));
   axis.Max(Single(scale.high));
+}
+
+void DressValueGrid(GridInfo& grid, const ValueAxes& axes, const GridLayout& layout,
+                    const Style& style) {
+  const double pitch = std::min(static_cast<double>(layout.size.width) / axes.x.cells,
+                                static_cast<double>(layout.size.depth) / axes.z.cells);
+  DressGrid(grid, layout, pitch, style);
+  grid.XAxisCellCount(static_cast<std::int16_t>(axes.x.cells));
+  grid.YAxisCellCount(static_cast<std::int16_t>(axes.y.cells));
+  grid.ZAxisCellCount(static_cast<std::int16_t>(axes.z.cells));
+}
+
+void DressValueAxes(ContinuousAxis& x, ContinuousAxis& y, ContinuousAxis& z, const ValueAxes& axes,
+                    const GridLayout& layout, const Style& style) {
+  DressAxis(x, layout.xLabels, layout.xHeader, layout, style);
+  DressAxis(y, layout.yLabels, layout.yHeader, layout, style);
+  DressAxis(z, layout.zLabels, layout.zHeader, layout, style);
+  // Away from the grid, along the lines of the labels.
+  Move(x.Root()->children, -layout.labelGap, 0);
+  Move(y.Root()->children, -layout.labelGap, 0);
+  Move(z.Root()->children, layout.labelGap, 0);
+  DressValues(x, axes.x);
+  DressValues(y, axes.y);
+  DressValues(z, axes.z);
 }
 
 }  // namespace orvane::tool

@@ -31,4 +31,10 @@ void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
 /// Range and number format of the labels.
 void DressValues(ContinuousAxis& axis, const ValueScale& scale);
 
+/// Cells, lines and walls of the grid, and the axes of a chart with values along all three.
+void DressValueGrid(GridInfo& grid, const ValueAxes& axes, const GridLayout& layout,
+                    const Style& style);
+void DressValueAxes(ContinuousAxis& x, ContinuousAxis& y, ContinuousAxis& z, const ValueAxes& axes,
+                    const GridLayout& layout, const Style& style);
+
 }  // namespace orvane::tool

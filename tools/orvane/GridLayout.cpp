@@ -102,6 +102,30 @@ GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const Gri
   return layout;
 }
 
+std::string ValueAxes::HeaderOf(const std::string& header, const ValueScale& scale) {
+  const std::string unit = scale.UnitText();
+  return Label(header) + (unit.empty() ? "" : " (" + unit + ")");
+}
+
+GridLayout LayOutGrid(const ValueAxes& axes, const std::vector<std::string>& names,
+                      const GridSize& usual, const ChartOptions& options) {
+  GridLayout layout;
+  layout.scale = axes.y;
+  layout.size = options.size.value_or(usual);
+  const auto [width, height, depth] = layout.size;
+  layout.textHeight = 0.032 * std::hypot(width, height, depth);
+  layout.xLabels = LayOutNumbers(axes.x, width, layout.textHeight);
+  layout.yLabels = LayOutNumbers(axes.y, height, layout.textHeight);
+  layout.zLabels = LayOutNumbers(axes.z, depth, layout.textHeight);
+  layout.xHeader = axes.xHeader;
+  layout.yHeader = axes.yHeader;
+  layout.zHeader = axes.zHeader;
+  // Two axes each have a label at the corners of the grid.
+  layout.labelGap = 0.5 * layout.textHeight;
+  LayOutTitleAndLegend(layout, options.title, names);
+  return layout;
+}
+
 void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
                           const std::vector<std::string>& names) {
   const double width = layout.size.width;

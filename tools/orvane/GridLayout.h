@@ -90,6 +90,24 @@ inline constexpr int kMostValueCells = 6;
 GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
                       const ChartOptions& options);
 
+/// What a chart with values along all three axes says.
+struct ValueAxes {
+  ValueScale x;
+  ValueScale y;
+  ValueScale z;
+  std::string xHeader;
+  std::string yHeader;
+  std::string zHeader;
+
+  /// `header` with the unit of `scale`, when that is not 1.
+  static std::string HeaderOf(const std::string& header, const ValueScale& scale);
+};
+
+/// The layout for charts with values along all three axes and a legend with an entry for each of
+/// `names`.
+GridLayout LayOutGrid(const ValueAxes& axes, const std::vector<std::string>& names,
+                      const GridSize& usual, const ChartOptions& options);
+
 /// The size that suits that many cells of a chart with series.
 GridSize SizeFor(std::size_t xCells, std::size_t zCells);
 

@@ -63,9 +63,8 @@ ValueScale ScaleOf(const PointTable& table, double PointRow::*coordinate) {
 
 /// Where everything of a scatter chart is. Lengths are in scene units.
 struct ScatterLayout {
-  GridLayout grid;  ///< Its scale is that of the y axis.
-  ValueScale x;
-  ValueScale z;
+  ValueAxes axes;
+  GridLayout grid;
   double largestRadius = 0;
   double largestSize = 0;  ///< In the table, above 0 but for a table of zeros.
 
@@ -77,8 +76,8 @@ struct ScatterLayout {
 
   /// The point of the grid's frame that stands for `row`.
   Point PlaceOf(const PointRow& row) const {
-    return {x.Share(row.x) * grid.size.width, grid.scale.Share(row.y) * grid.size.height,
-            z.Share(row.z) * grid.size.depth};
+    return {axes.x.Share(row.x) * grid.size.width, axes.y.Share(row.y) * grid.size.height,
+            axes.z.Share(row.z) * grid.size.depth};
   }
   /// Volumes go with sizes, but no sphere is too small to be seen.
   double RadiusOf(const PointRow& row) const {
@@ -89,18 +88,8 @@ struct ScatterLayout {
   /// A slider's labels stand within its length, its steps at the ends as well: made larger by this
   /// factor, the labels stand at their steps.
   double LabelStretch() const { return sliderLength / (sliderLength - grid.xLabels.height); }
-  /// The least distance between two lines of the grid's floor.
-  double LeastPitch() const {
-    return std::min(static_cast<double>(grid.size.width) / x.cells,
-                    static_cast<double>(grid.size.depth) / z.cells);
-  }
   double SliderLeft() const { return (grid.size.width - sliderScale * sliderLength) / 2; }
 };
-
-std::string HeaderOf(const std::string& header, const ValueScale& scale) {
-  const std::string unit = scale.UnitText();
-  return Label(header) + (unit.empty() ? "" : " (" + unit + ")");
-}
 
 /// A slider of the length that its chart gives it lies in front of the grid, made smaller where it
 /// is longer.
@@ -127,30 +116,22 @@ double LargestRadius(const PointTable& table, const GridSize& size) {
 
 ScatterLayout LayOutScatter(const PointTable& table, const ScatterOptions& options) {
   ScatterLayout layout;
-  layout.x = ScaleOf(table, &PointRow::x);
-  layout.z = ScaleOf(table, &PointRow::z);
-
-  GridLayout& grid = layout.grid;
-  grid.scale = ScaleOf(table, &PointRow::y);
-  grid.size = options.size.value_or(GridSize{9, 6, 9});
-  const auto [width, height, depth] = grid.size;
-  grid.textHeight = 0.032 * std::hypot(width, height, depth);
-  grid.xLabels = LayOutNumbers(layout.x, width, grid.textHeight);
-  grid.yLabels = LayOutNumbers(grid.scale, height, grid.textHeight);
-  grid.zLabels = LayOutNumbers(layout.z, depth, grid.textHeight);
-  grid.xHeader = HeaderOf(table.xHeader, layout.x);
-  grid.yHeader = HeaderOf(table.yHeader, grid.scale);
-  grid.zHeader = HeaderOf(table.zHeader, layout.z);
-  LayOutTitleAndLegend(grid, options.title, table.groups);
+  ValueAxes& axes = layout.axes;
+  axes.x = ScaleOf(table, &PointRow::x);
+  axes.y = ScaleOf(table, &PointRow::y);
+  axes.z = ScaleOf(table, &PointRow::z);
+  axes.xHeader = ValueAxes::HeaderOf(table.xHeader, axes.x);
+  axes.yHeader = ValueAxes::HeaderOf(table.yHeader, axes.y);
+  axes.zHeader = ValueAxes::HeaderOf(table.zHeader, axes.z);
+  layout.grid = LayOutGrid(axes, table.groups, {9, 6, 9}, options);
+  const GridLayout& grid = layout.grid;
 
   layout.largestRadius = LargestRadius(table, grid.size);
   ForEachPoint(table, [&](const PointRow& point) {
     layout.largestSize = std::max(layout.largestSize, point.size);
   });
-  // Two axes each have a label at the corners of the grid.
-  grid.labelGap = 0.5 * grid.textHeight;
-  layout.frontEdge =
-      kFront * depth + grid.labelGap + grid.HeaderDistance(grid.xLabels) + 2.2 * grid.textHeight;
+  layout.frontEdge = kFront * grid.size.depth + grid.labelGap + grid.HeaderDistance(grid.xLabels) +
+                     2.2 * grid.textHeight;
   if (HasSlider(table, options)) LayOutSlider(layout, table);
   if (HasStarter(table, options)) layout.starterSize = 1.5 * grid.textHeight;
   return layout;
@@ -171,27 +152,6 @@ Subject SubjectOf(const ScatterLayout& layout) {
         {layout.grid.size.width / 2, 0, layout.frontEdge + layout.starterSize});
   }
   return subject;
-}
-
-/// Moves labels and header of `axis` away from the grid: by `distance` along their lines.
-void SetOff(const Axis& axis, double distance) {
-  Wrap(axis.Root()->children)->translation.X(Single(distance));
-}
-
-void DressAxes(ScatterGraph& chart, const ScatterLayout& layout, const Style& style) {
-  const GridLayout& grid = layout.grid;
-  DressAxis(*chart.XAxisProps(), grid.xLabels, grid.xHeader, grid, style);
-  DressAxis(*chart.YAxisProps(), grid.yLabels, grid.yHeader, grid, style);
-  DressAxis(*chart.ZAxisProps(), grid.zLabels, grid.zHeader, grid, style);
-  SetOff(*chart.XAxisProps(), -grid.labelGap);
-  SetOff(*chart.YAxisProps(), -grid.labelGap);
-  SetOff(*chart.ZAxisProps(), grid.labelGap);
-  DressValues(*chart.XAxisProps(), layout.x);
-  DressValues(*chart.YAxisProps(), grid.scale);
-  DressValues(*chart.ZAxisProps(), layout.z);
-  chart.GridProps()->XAxisCellCount(static_cast<int16_t>(layout.x.cells));
-  chart.GridProps()->YAxisCellCount(static_cast<int16_t>(grid.scale.cells));
-  chart.GridProps()->ZAxisCellCount(static_cast<int16_t>(layout.z.cells));
 }
 
 HostColor ColorOf(const PointRow& point) { return point.color.value_or(SeriesColor(point.group)); }
@@ -289,8 +249,9 @@ std::shared_ptr<ScatterGraph> MakeScatterChart(const PointTable& table,
   auto chart = std::make_shared<ScatterGraph>();
   const ScatterLayout layout = LayOutScatter(table, options);
   const Style style(options.background);
-  DressGrid(*chart->GridProps(), layout.grid, layout.LeastPitch(), style);
-  DressAxes(*chart, layout, style);
+  DressValueGrid(*chart->GridProps(), layout.axes, layout.grid, style);
+  DressValueAxes(*chart->XAxisProps(), *chart->YAxisProps(), *chart->ZAxisProps(), layout.axes,
+                 layout.grid, style);
   for (std::size_t i = 0; i < table.groups.size(); ++i) {
     chart->LegendProps()->AddLegendEntry(SeriesColor(i), layout.grid.legend.texts[i]);
   }
