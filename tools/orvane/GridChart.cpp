@@ -31,6 +31,7 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   DressAxis(*chart.ZAxisProps(), layout.zLabels, "", layout, style);
   for (const auto& text : layout.xLabels.texts) chart.XAxisProps()->Labels().Append(text);
   for (const auto& text : layout.zLabels.texts) chart.ZAxisProps()->Labels().Append(text);
+  SetLabelsOff(*chart.XAxisProps(), *chart.YAxisProps(), *chart.ZAxisProps(), layout);
   DressValues(*chart.YAxisProps(), layout.scale);
 }
 

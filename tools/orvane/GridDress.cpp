@@ -73,6 +73,13 @@ void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
   MoveHeader(axis, layout.HeaderDistance(labels) - counted, labels);
 }
 
+void SetLabelsOff(const Axis& x, const Axis& y, const Axis& z, const GridLayout& layout) {
+  if (layout.labelGap == 0) return;
+  Move(x.Root()->children, -layout.labelGap, 0);
+  Move(y.Root()->children, -layout.YLabelGap(), 0);
+  Move(z.Root()->children, layout.labelGap, 0);
+}
+
 void DressValues(ContinuousAxis& axis, const ValueScale& scale) {
   axis.NumericFormat(scale.LabelPicture());
   axis.Min(Single(scale.low));
@@ -94,10 +101,7 @@ void DressValueAxes(ContinuousAxis& x, ContinuousAxis& y, ContinuousAxis& z, con
   DressAxis(x, layout.xLabels, layout.xHeader, layout, style);
   DressAxis(y, layout.yLabels, layout.yHeader, layout, style);
   DressAxis(z, layout.zLabels, layout.zHeader, layout, style);
-  // Away from the grid, along the lines of the labels.
-  Move(x.Root()->children, -layout.labelGap, 0);
-  Move(y.Root()->children, -layout.labelGap, 0);
-  Move(z.Root()->children, layout.labelGap, 0);
+  SetLabelsOff(x, y, z, layout);
   DressValues(x, axes.x);
   DressValues(y, axes.y);
   DressValues(z, axes.z);

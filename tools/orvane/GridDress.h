@@ -28,6 +28,9 @@ void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Sty
 void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
                const GridLayout& layout, const Style& style);
 
+/// Moves labels and headers away from the grid, along their lines.
+void SetLabelsOff(const Axis& x, const Axis& y, const Axis& z, const GridLayout& layout);
+
 /// Range and number format of the labels.
 void DressValues(ContinuousAxis& axis, const ValueScale& scale);
 

@@ -98,6 +98,9 @@ GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const Gri
   layout.yLabels = LayOutNumbers(layout.scale, height, layout.textHeight);
   layout.zLabels = LayOutLabels(texts.z, cellDepth, layout.textHeight);
 
+  // In narrow cells the first labels stand close to the corners of the grid, as those along y do.
+  if (cellWidth < 2 * layout.textHeight) layout.labelGap = 0.4 * layout.textHeight;
+
   LayOutTitleAndLegend(layout, options.title, texts.legend);
   return layout;
 }
@@ -189,7 +192,7 @@ Subject SubjectOf(const GridLayout& layout) {
 
   // Value labels extend from the front left edge in the direction halfway between left and front.
   const auto addBesideEdge = [&](double distance, double y) {
-    const double along = (layout.labelGap + distance) / std::numbers::sqrt2;
+    const double along = (layout.YLabelGap() + distance) / std::numbers::sqrt2;
     subject.points.push_back({-0.02 * width - along, y, kFront * depth + along});
   };
   for (const double y : {-text / 2, height + text / 2}) addBesideEdge(layout.yLabels.Width(), y);
