@@ -104,11 +104,11 @@ TEST(Container, ShowsAPageThatAppliesToTheControlsSelected) {
 TEST(Container, KnowsItsOwnControlsAlone) {
   Container form;
   const auto control = std::make_shared<Recorder>();
-  const auto unknown = ComponentError("The control is not placed in this container");
-  EXPECT_EQ(ErrorOf([&] { form.Save(control); }), unknown);
-  EXPECT_EQ(ErrorOf([&] { form.ShowPropertyPage({control}); }), unknown);
-  EXPECT_EQ(ErrorOf([&] { form.ShowPropertyPage({}); }),
-            ComponentError("Select a control to show its property page"));
+  const std::string unknown = "The control is not placed in this container";
+  tests::ExpectErrors(
+      {{[&] { form.Save(control); }, unknown},
+       {[&] { form.ShowPropertyPage({control}); }, unknown},
+       {[&] { form.ShowPropertyPage({}); }, "Select a control to show its property page"}});
   form.PlaceNew(control);
   EXPECT_EQ(ErrorOf([&] { form.PlaceSaved(control, PropertyBag()); }),
             ComponentError("The control is placed in this container already"));

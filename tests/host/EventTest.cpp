@@ -23,21 +23,16 @@ TEST(Event, ReachesHandlersInOrderUntilTheirSubscriptionEnds) {
 
 TEST(Event, SurvivesAHandlerThatDisconnectsAnother) {
   int calls = 0;
-  Event<> event;
-  Subscription second;
-  const auto first = event.Connect([&] { second = {}; });
-  second = event.Connect([&] { ++calls; });
-  event();
-  EXPECT_EQ(calls, 0);
-}
-
-TEST(Event, MayEndBeforeItsSubscription) {
-  Subscription subscription;
+  Subscription second, third;
   {
     Event<> event;
-    subscription = event.Connect([] {});
+    const auto first = event.Connect([&] { second = {}; });
+    second = event.Connect([&] { ++calls; });
+    third = event.Connect([] {});
+    event();
   }
-  subscription = {};
+  EXPECT_EQ(calls, 0);
+  third = {};  // Behind its event.
 }
 
 }  // namespace

@@ -11,6 +11,7 @@ namespace orvane::host {
 namespace {
 
 TEST(IniText, GivesBackEveryValue) {
+  using std::string_literals::operator""s;
   const std::string values[] = {"",
                                 " ",
                                 "C:\\",
@@ -18,16 +19,16 @@ TEST(IniText, GivesBackEveryValue) {
                                 "http://x/?a=b#c;d",
                                 "\"",
                                 "\"a\" b",
-                                "a\"",
                                 "[s]",
                                 "=",
                                 " padded ",
                                 "two\nlines\r\n",
-                                "\t",
-                                std::string("nul\0end", 7),
+                                "nul\0end"s,
                                 "\x01\x1f\x7f",
                                 "\\n",
+                                "a\"",
                                 "k=v",
+                                "\t",
                                 "\xff\xfe",
                                 "x\\\"",
                                 std::string(5000, '\n')};
@@ -40,25 +41,15 @@ TEST(IniText, GivesBackEveryValue) {
   EXPECT_EQ(read.Text(), ini.Text());
 }
 
-struct Line {
-  const char* text;
-  std::optional<std::string> value;
-};
-
 TEST(IniText, ReadsWhatPeopleWriteAndSkipsWhatIsDamaged) {
-  const Line lines[] = {{"k=v", "v"},
-                        {"  k\t=  v w \r", "v w"},
-                        {"k=", ""},
-                        {"k=\"a\\x41\\\"\\n\"", "aA\"\n"},
-                        {"K=v", std::nullopt},
-                        {"#k=v", std::nullopt},
-                        {"k", std::nullopt},
-                        {"k=\"open", std::nullopt},
-                        {"k=\"a\" b", std::nullopt},
-                        {"k=\"\\q\"", std::nullopt},
-                        {"k=\"\\x4\"", std::nullopt},
-                        {"k=\"\\", std::nullopt},
-                        {"k=a\x01", std::nullopt}};
+  const std::pair<const char*, std::optional<std::string>> lines[] = {
+      {"k=v", "v"},       {"  k\t=  v w \r", "v w"},
+      {"k=", ""},         {"k=\"a\\x41\\\"\\n\"", "aA\"\n"},
+      {"K=v", {}},        {"#k=v", {}},
+      {"k", {}},          {"k=\"open", {}},
+      {"k=\"a\" b", {}},  {"k=\"\\q\"", {}},
+      {"k=\"\\x4\"", {}}, {"k=\"\\", {}},
+      {"k=a\x01", {}}};
   for (const auto& [text, value] : lines) {
     const std::string before = std::string("[other]\nk=0\n[s]\n") + text + "\n";
     IniText ini(before);

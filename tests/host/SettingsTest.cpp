@@ -70,80 +70,57 @@ TEST_F(Settings, AreReadableTextInTheUsersFolder) {
   EXPECT_EQ(fs::status(m_file.parent_path()).permissions(), fs::perms::owner_all);
 }
 
-struct Place {
-  const char* config;
-  const char* home;
-  const char* file;  ///< In the scratch folder; nullptr where nothing can be saved.
-};
-
 TEST_F(Settings, FollowTheXdgBaseDirectories) {
   const std::string root = m_folder.Path().string();
-  const Place places[] = {{"/c", "/h", "/c/App/settings.ini"},
-                          {"", "/h", "/h/.config/App/settings.ini"},
-                          {nullptr, "/h", "/h/.config/App/settings.ini"},
-                          {nullptr, nullptr, nullptr}};
-  for (const auto& [config, home, file] : places) {
-    const auto under = [&](const char* folder) {
-      return folder == nullptr || *folder == '\0' ? "relative" : root + folder;
-    };
-    const std::string configFolder = under(config);
-    const std::string homeFolder = under(home);
-    const Variable configHome("XDG_CONFIG_HOME",
-                              config == nullptr ? nullptr : configFolder.c_str());
-    const Variable userHome("HOME", homeFolder.c_str());
-    if (file == nullptr) {
-      EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess);
-      EXPECT_EQ(Get("Key"), "default");
-      continue;
-    }
+  const std::string config = root + "/c";
+  const std::string home = root + "/h";
+  const std::pair<const char*, std::string> places[] = {{config.c_str(), "/c/App/settings.ini"},
+                                                        {"relative", "/h/.config/App/settings.ini"},
+                                                        {nullptr, "/h/.config/App/settings.ini"}};
+  for (const auto& [configHome, file] : places) {
+    const Variable first("XDG_CONFIG_HOME", configHome);
+    const Variable second("HOME", home.c_str());
     Save("Key", file);
-    EXPECT_EQ(FileText(root + file), std::string("[Section]\nKey=") + file + "\n");
+    EXPECT_EQ(FileText(root + file), "[Section]\nKey=" + file + "\n");
     EXPECT_EQ(Get("Key"), file);
     fs::remove_all(root + file);
   }
+  const Variable first("XDG_CONFIG_HOME", nullptr);
+  const Variable second("HOME", "relative");
+  EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess);
+  EXPECT_EQ(Get("Key"), "default");
 }
 
 TEST_F(Settings, ReadAsTheirDefaultsWhenDamaged) {
-  const std::string damaged[] = {"",
-                                 "\n\n\n",
-                                 std::string(300, '\0'),
-                                 "[Section\nKey=v",
-                                 "[]\n=\n",
-                                 "Key=v\n",
-                                 "[Section]\nKey=\"",
-                                 "\xff\xfe[\0S\0]",
-                                 std::string(2 << 20, 'x')};
-  for (const auto& text : damaged) {
+  const std::string large(2 << 20, 'x');
+  for (const std::string& text :
+       {std::string(300, '\0'), std::string("[Section\nKey=v"), std::string("Key=v\n"),
+        std::string("\xff\xfe[\0S\0]", 7), large}) {
     Write(text);
     EXPECT_EQ(Get("Key"), "default") << text.substr(0, 20);
   }
+  EXPECT_EQ(
+      ErrorOf([&] { Save("Key", "v"); }).message,
+      m_file.string() + ": the settings cannot be saved: what is there is not a settings file");
+  EXPECT_EQ(FileText(m_file), large) << "a large file is not lost";
   Write("garbage \x02\n[Section]\nKey=v");
   Save("Other", "1");
   EXPECT_EQ(FileText(m_file), "garbage \x02\n[Section]\nKey=v\nOther=1\n");
 }
 
 TEST_F(Settings, ReadAsTheirDefaultsWhereThereIsNoFile) {
+  const auto expectNone = [&](const char* what) {
+    EXPECT_EQ(Get("Key"), "default") << what;
+    EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess) << what;
+  };
   fs::create_directories(m_file);
-  EXPECT_EQ(Get("Key"), "default");
-  EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess);
+  expectNone("a folder");
   fs::remove(m_file);
   ASSERT_EQ(mkfifo(m_file.c_str(), 0600), 0);
-  EXPECT_EQ(Get("Key"), "default") << "and does not wait for somebody to write";
-  EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess);
+  expectNone("a pipe: nobody waits for somebody to write");
   fs::remove_all(m_file.parent_path());
-  std::ofstream(m_file.parent_path()) << "a file where the folder should be";
-  EXPECT_EQ(Get("Key"), "default");
-  EXPECT_EQ(ErrorOf([&] { Save("Key", "v"); }).number, ErrorNumber::FileAccess);
-}
-
-TEST_F(Settings, OfLargeFilesAreNotLostBySaving) {
-  const std::string large(2 << 20, 'x');
-  Write(large);
-  const auto raised = ErrorOf([&] { Save("Key", "v"); });
-  EXPECT_EQ(
-      raised.message,
-      m_file.string() + ": the settings cannot be saved: what is there is not a settings file");
-  EXPECT_EQ(FileText(m_file), large);
+  std::ofstream(m_file.parent_path()) << "a file";
+  expectNone("a file where the folder should be");
 }
 
 TEST_F(Settings, StayInTheirFolderWhateverTheNames) {

@@ -3,8 +3,13 @@
 
 #include "orvane/host/AutomationError.h"
 
+#include <functional>
+#include <initializer_list>
 #include <ostream>
 #include <string>
+#include <utility>
+
+#include <gtest/gtest.h>
 
 namespace orvane::host {
 
@@ -40,6 +45,12 @@ Raised ErrorOf(F&& call) {
 
 inline Raised ComponentError(const std::string& message) {
   return {host::ErrorNumber::Component, message};
+}
+
+/// Holds each call against the component error that it must raise.
+inline void ExpectErrors(
+    std::initializer_list<std::pair<std::function<void()>, std::string>> calls) {
+  for (const auto& [call, message] : calls) EXPECT_EQ(ErrorOf(call), ComponentError(message));
 }
 
 }  // namespace orvane::tests
