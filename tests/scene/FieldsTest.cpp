@@ -49,11 +49,13 @@ Vec3f Turned(const SFRotation& r, Vec3f v) {
 }
 
 TEST(SFRotation, AnglesTurnAboutFixedXThenYThenZ) {
-  struct Case {
+  const auto expectNear = [](const Vec3f& is, const Vec3f& wanted) {
+    EXPECT_LT(std::hypot(is.x - wanted.x, is.y - wanted.y, is.z - wanted.z), 1e-4);
+  };
+  const struct {
     std::array<float, 3> angles;
     Vec3f reading, up;  // Where a text's reading direction (+x) and its upward one (+y) end.
-  };
-  const Case cases[] = {
+  } cases[] = {
       {{-1.5708F, 1.5708F, 0}, {0, 0, -1}, {-1, 0, 0}},
       {{-1.5708F, 0, 0}, {1, 0, 0}, {0, 0, -1}},
       {{0, 0.7854F, 0}, {0.70711F, 0, -0.70711F}, {0, 1, 0}},
@@ -63,14 +65,8 @@ TEST(SFRotation, AnglesTurnAboutFixedXThenYThenZ) {
   for (const auto& test : cases) {
     SFRotation rotation;
     rotation.SetFromAngles(test.angles[0], test.angles[1], test.angles[2]);
-    const Vec3f reading = Turned(rotation, {1, 0, 0});
-    const Vec3f up = Turned(rotation, {0, 1, 0});
-    EXPECT_NEAR(reading.x, test.reading.x, 1e-4);
-    EXPECT_NEAR(reading.y, test.reading.y, 1e-4);
-    EXPECT_NEAR(reading.z, test.reading.z, 1e-4);
-    EXPECT_NEAR(up.x, test.up.x, 1e-4);
-    EXPECT_NEAR(up.y, test.up.y, 1e-4);
-    EXPECT_NEAR(up.z, test.up.z, 1e-4);
+    expectNear(Turned(rotation, {1, 0, 0}), test.reading);
+    expectNear(Turned(rotation, {0, 1, 0}), test.up);
   }
 }
 
@@ -92,76 +88,58 @@ TEST(Lists, InsertRemoveAndCopy) {
   from.CopyTo(to);
   from.Item(1, 5);
   EXPECT_EQ(to.Items(), (MFFloat::List{1, 2}));
-}
 
-TEST(Lists, IndexMoreThan16Bits) {
-  MFFloat list;
+  MFFloat list;  // Indexes have more than 16 bits.
   for (int i = 1; i <= 70000; ++i) list.Append(static_cast<float>(i));
   EXPECT_EQ(list.Count(), 70000);
   EXPECT_EQ(list.Item(70000), 70000);
 }
 
-struct Refusal {
-  const char* name;
-  std::function<void(Text&)> call;
-  ErrorNumber number;
-  const char* message;
-};
-
-class RefusedChange : public testing::TestWithParam<Refusal> {};
-
-TEST_P(RefusedChange, NamesTheFieldAndKeepsIt) {
-  const auto text = Create<Text>();
-  text->string.Append("one");
-  text->length.Append(4);
-  EXPECT_EQ(ErrorOf([&] { GetParam().call(*text); }),
-            (Raised{GetParam().number, GetParam().message}));
-  EXPECT_EQ(text->string.Items(), (MFString::List{"one"}));
-  EXPECT_EQ(text->length.Items(), (MFFloat::List{4}));
-  EXPECT_EQ(text->maxExtent.Value(), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Fields, RefusedChange,
-    testing::Values(
-        Refusal{"ReadBelow", [](Text& node) { (void)node.string.Item(0); }, ErrorNumber::ListIndex,
-                "Index 0 is outside the range [1..1] of Text.string"},
-        Refusal{"ReadAbove", [](Text& node) { (void)node.length.Item(2); }, ErrorNumber::ListIndex,
-                "Index 2 is outside the range [1..1] of Text.length"},
-        Refusal{"Replace", [](Text& node) { node.string.Item(2, "two"); }, ErrorNumber::ListIndex,
-                "Index 2 is outside the range [1..1] of Text.string"},
-        Refusal{"RemoveAt", [](Text& node) { node.length.RemoveAt(-1); }, ErrorNumber::ListIndex,
-                "Index -1 is outside the range [1..1] of Text.length"},
-        Refusal{"InsertBeyondEnd", [](Text& node) { node.string.Insert(3, "x"); },
-                ErrorNumber::ListIndex, "Index 3 is outside the range [1..1] of Text.string"},
-        Refusal{"AppendNan", [](Text& node) { node.length.Append(kNan); }, ErrorNumber::NotFinite,
-                "Text.length takes finite numbers only"},
-        Refusal{"ItemInfinite", [](Text& node) { node.length.Item(1, kInfinity); },
-                ErrorNumber::NotFinite, "Text.length takes finite numbers only"},
-        Refusal{"BelowRange", [](Text& node) { node.length.Item(1, -1); }, ErrorNumber::OutOfRange,
-                "Text.length takes numbers in the range [0..inf], got -1"},
-        Refusal{"ValueInfinite", [](Text& node) { node.maxExtent.Value(-kInfinity); },
-                ErrorNumber::NotFinite, "Text.maxExtent takes finite numbers only"}),
-    [](const auto& test) { return test.param.name; });
-
-TEST(Fields, RefuseColoursAndNodesThatAreNone) {
+TEST(Fields, NameThemselvesInWhatTheyRefuseAndKeepTheirValues) {
+  const auto node = Create<Text>();
   const auto material = Create<Material>();
   const auto group = Create<Group>();
-  EXPECT_EQ(ErrorOf([&] { material->diffuseColor.Value(0x1000000); }),
-            (Raised{ErrorNumber::OutOfRange,
-                    "Material.diffuseColor takes a colour in the range [0..16777215], got "
-                    "16777216"}));
-  EXPECT_EQ(ErrorOf([&] { Create<Background>()->skyColor.Append(0, 1.5F, 0); }),
-            (Raised{ErrorNumber::OutOfRange,
-                    "Background.skyColor takes components in the range [0..1]"}));
-  EXPECT_EQ(ErrorOf([&] { Create<Viewpoint>()->fieldOfView.Value(0); }),
-            (Raised{ErrorNumber::OutOfRange,
-                    "Viewpoint.fieldOfView takes numbers in the range (0..3.14159), got 0"}));
-  EXPECT_EQ(ErrorOf([&] { group->children.Append(nullptr); }),
-            (Raised{ErrorNumber::NoNode, "Group.children takes nodes only"}));
-  EXPECT_EQ(ErrorOf([&] { group->children.Remove(material); }),
-            (Raised{ErrorNumber::NodeNotInList,
-                    "Group.children does not hold this Material, so it cannot be removed"}));
+  node->string.Append("one");
+  node->length.Append(4);
+  using enum ErrorNumber;
+  const struct {
+    std::function<void()> call;
+    ErrorNumber number;
+    const char* message;
+  } cases[] = {
+      {[&] { (void)node->string.Item(0); }, ListIndex,
+       "Index 0 is outside the range [1..1] of Text.string"},
+      {[&] { (void)node->length.Item(2); }, ListIndex,
+       "Index 2 is outside the range [1..1] of Text.length"},
+      {[&] { node->string.Item(2, "two"); }, ListIndex,
+       "Index 2 is outside the range [1..1] of Text.string"},
+      {[&] { node->length.RemoveAt(-1); }, ListIndex,
+       "Index -1 is outside the range [1..1] of Text.length"},
+      {[&] { node->string.Insert(3, "x"); }, ListIndex,
+       "Index 3 is outside the range [1..1] of Text.string"},
+      {[&] { node->length.Append(kNan); }, NotFinite, "Text.length takes finite numbers only"},
+      {[&] { node->length.Item(1, kInfinity); }, NotFinite,
+       "Text.length takes finite numbers only"},
+      {[&] { node->length.Item(1, -1); }, OutOfRange,
+       "Text.length takes numbers in the range [0..inf], got -1"},
+      {[&] { node->maxExtent.Value(-kInfinity); }, NotFinite,
+       "Text.maxExtent takes finite numbers only"},
+      {[&] { material->diffuseColor.Value(0x1000000); }, OutOfRange,
+       "Material.diffuseColor takes a colour in the range [0..16777215], got 16777216"},
+      {[&] { Create<Background>()->skyColor.Append(0, 1.5F, 0); }, OutOfRange,
+       "Background.skyColor takes components in the range [0..1]"},
+      {[&] { Create<Viewpoint>()->fieldOfView.Value(0); }, OutOfRange,
+       "Viewpoint.fieldOfView takes numbers in the range (0..3.14159), got 0"},
+      {[&] { group->children.Append(nullptr); }, NoNode, "Group.children takes nodes only"},
+      {[&] { group->children.Remove(material); }, NodeNotInList,
+       "Group.children does not hold this Material, so it cannot be removed"},
+  };
+  for (const auto& [call, number, message] : cases) {
+    EXPECT_EQ(ErrorOf(call), (Raised{number, message}));
+  }
+  EXPECT_EQ(node->string.Items(), (MFString::List{"one"}));
+  EXPECT_EQ(node->length.Items(), (MFFloat::List{4}));
+  EXPECT_EQ(node->maxExtent.Value(), 0);
 }
 
 TEST(LateBoundFields, AreReachedThroughTheirNodeAndKeepItAlive) {
@@ -189,14 +167,13 @@ TEST(LateBoundLists, TakeAllEntriesAtOnceOrNone) {
   const auto text = Create<Text>();
   const auto points = CoreFactory()->CreateField("MFVec3f");
   const auto plane = CoreFactory()->CreateField("MFVec2f");
-  struct Case {
+  const struct {
     host::Object& list;
     Row accepted;
     Value refused;
     ErrorNumber number;
     const char* message;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {text->length,
        {1, 2, 3.5},
        Row{1, 2, -1},
@@ -228,7 +205,7 @@ TEST(LateBoundLists, TakeAllEntriesAtOnceOrNone) {
        ErrorNumber::Overflow,
        "Overflow: MFVec2f.Items: nan does not fit a 32-bit float"},
   };
-  for (const Case& test : cases) {
+  for (const auto& test : cases) {
     test.list.Let("Items", Value(test.accepted));
     EXPECT_EQ(ErrorOf([&] { test.list.Let("Items", test.refused); }),
               (Raised{test.number, test.message}));

@@ -1,10 +1,10 @@
 /// The three PROTO files and the classes that mirror them agree: every name, type, access kind,
 /// order and default.
 
+#include "support/ScratchFolder.h"
+
 #include "orvane/scene/frmMain.h"
 
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <regex>
 #include <sstream>
@@ -63,8 +63,7 @@ using Interface = std::vector<std::string>;
 
 /// The interfaces of all PROTOs of a file, a line an entry: "exposedField SFFloat length 4".
 std::map<std::string, Interface> Declared(const std::string& fileName) {
-  std::ifstream file(std::string(ORVANE_PROTO_DIR) + "/" + fileName);
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
+  const std::string text = tests::FileText(ORVANE_PROTO_DIR "/" + fileName);
   std::map<std::string, Interface> protos;
   const std::regex head(R"(\nPROTO (\w+) \[\n([^]*?)\n\] ?\{)");
   for (std::sregex_iterator at(text.begin(), text.end(), head), end; at != end; ++at) {
@@ -84,10 +83,8 @@ std::map<std::string, Interface> Declared(const std::string& fileName) {
   return protos;
 }
 
-class ProtoFile : public testing::TestWithParam<Module> {};
-
-TEST_P(ProtoFile, DeclaresWhatTheLibrarySets) {
-  const auto factory = frmMain::Instance().FactoryOf(GetParam());
+void ExpectMirrored(Module module) {
+  const auto factory = frmMain::Instance().FactoryOf(module);
   std::map<std::string, Interface> mirrored;
   for (const auto& name : factory->NodeTypes()) {
     const auto node = factory->CreateNode(name);
@@ -99,20 +96,16 @@ TEST_P(ProtoFile, DeclaresWhatTheLibrarySets) {
                                                       : line + " = " + ValueOf(*entry.field));
     }
   }
-  auto declared = Declared(ProtoFileOf(GetParam()));
+  const auto declared = Declared(ProtoFileOf(module));
   for (const auto& [name, interface] : declared) EXPECT_EQ(interface, mirrored[name]) << name;
   for (const auto& [name, interface] : mirrored) {
     EXPECT_TRUE(declared.contains(name)) << name << " is in no file";
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Scene, ProtoFile, testing::Values(Module::Graph, Module::Nav, Module::Ui),
-                         [](const auto& test) {
-                           return std::string(ProtoFileOf(test.param)).substr(0, 5) == "VR_GR"
-                                      ? "Graph"
-                                  : test.param == Module::Nav ? "Nav"
-                                                              : "Ui";
-                         });
+TEST(ProtoFiles, DeclareWhatTheLibrarySets) {
+  for (const Module module : {Module::Graph, Module::Nav, Module::Ui}) ExpectMirrored(module);
+}
 
 }  // namespace
 }  // namespace orvane::scene

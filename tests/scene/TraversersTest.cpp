@@ -1,14 +1,11 @@
 /// Files are written whole or not at all.
 
 #include "support/Raises.h"
+#include "support/ScratchFolder.h"
 
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/Traversers.h"
 #include "orvane/scene/frmMain.h"
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -19,40 +16,28 @@ namespace fs = std::filesystem;
 
 class FileTraverser : public testing::Test {
  protected:
-  void SetUp() override {
-    m_folder = fs::temp_directory_path() / ("orvane_" + std::to_string(::getpid()));
-    fs::create_directory(m_folder);
-  }
-  void TearDown() override { fs::remove_all(m_folder); }
-
   bool Write(const std::string& name, const std::shared_ptr<Node>& root) {
     return VRMLFileTraverser().Traverse((m_folder / name).string(), root,
                                         std::make_shared<RouteList>());
   }
-  std::string Read(const std::string& name) {
-    std::ifstream file(m_folder / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Read(const std::string& name) { return tests::FileText(m_folder / name); }
   std::ptrdiff_t FileCount() {
     return std::distance(fs::directory_iterator(m_folder), fs::directory_iterator());
   }
 
-  fs::path m_folder;
+  tests::ScratchFolder m_scratch;
+  fs::path m_folder = m_scratch.Path();
 };
 
-TEST_F(FileTraverser, ReplacesTheFileAndLeavesNothingElse) {
+TEST_F(FileTraverser, ReplacesTheFileAlsoThroughALinkAndLeavesNothingElse) {
   std::ofstream(m_folder / "Größe.wrl") << "old";
   EXPECT_TRUE(Write("Größe.wrl", Create<Group>()));
   EXPECT_EQ(Read("Größe.wrl"), "#VRML V2.0 utf8\nGroup { }\n");
   EXPECT_EQ(FileCount(), 1);
-}
-
-TEST_F(FileTraverser, WritesThroughALink) {
-  std::ofstream(m_folder / "real.wrl") << "old";
-  fs::create_symlink("real.wrl", m_folder / "link.wrl");
-  EXPECT_TRUE(Write("link.wrl", Create<Group>()));
+  fs::create_symlink("Größe.wrl", m_folder / "link.wrl");
+  EXPECT_TRUE(Write("link.wrl", Create<Transform>()));
   EXPECT_TRUE(fs::is_symlink(m_folder / "link.wrl"));
-  EXPECT_EQ(Read("real.wrl"), "#VRML V2.0 utf8\nGroup { }\n");
+  EXPECT_EQ(Read("Größe.wrl"), "#VRML V2.0 utf8\nTransform { }\n");
 }
 
 TEST_F(FileTraverser, LeavesTheOldFileWhenItFails) {
