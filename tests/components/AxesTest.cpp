@@ -10,7 +10,6 @@
 namespace orvane {
 namespace {
 
-using tests::ComponentError;
 using tests::ErrorOf;
 using Lines = std::vector<std::string>;
 
@@ -74,14 +73,6 @@ TEST(DiscreteAxis, CutsLabelsButAddsNone) {
   EXPECT_EQ(axis.LabelCount(), 0);
 }
 
-TEST(Axis, KeepsLinesOneGapApart) {
-  DiscreteAxis axis;
-  axis.LabelHeight(0.5F);
-  EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.2F);
-  axis.LabelTextGap(0.3F);
-  EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.6F);
-}
-
 TEST(Axis, PutsTheHeaderBesideTheMiddleOfTheLabels) {
   DiscreteAxis axis;
   const Part header = PartOf(axis, 1);
@@ -113,21 +104,18 @@ TEST(Axis, PutsTheHeaderBesideTheMiddleOfTheLabels) {
 TEST(Axis, HidesAndShowsBothPartsInOrder) {
   DiscreteAxis axis;
   const auto parts = axis.Root()->children.Items();
-  axis.ShowAxis(false);
-  EXPECT_EQ(axis.Root()->children.Count(), 0);
-  axis.ShowAxis(true);
-  axis.ShowAxis(true);
-  EXPECT_EQ(axis.Root()->children.Items(), parts);
+  for (const bool show : {false, true, true}) {
+    axis.ShowAxis(show);
+    EXPECT_EQ(axis.Root()->children.Items(), show ? parts : scene::MFNode::List());
+  }
 }
 
 TEST(Axis, RejectsSizesAndIgnoresUnknownEnumerators) {
   DiscreteAxis axis;
-  EXPECT_EQ(ErrorOf([&] { axis.LabelHeight(0); }),
-            ComponentError("Invalid label height, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { axis.HeaderHeight(-1); }),
-            ComponentError("Invalid Header height, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { axis.LabelTextGap(0); }),
-            ComponentError("Invalid label text gap, must be greater than 0"));
+  tests::ExpectErrors(
+      {{[&] { axis.LabelHeight(0); }, "Invalid label height, must be greater than 0"},
+       {[&] { axis.HeaderHeight(-1); }, "Invalid Header height, must be greater than 0"},
+       {[&] { axis.LabelTextGap(0); }, "Invalid label text gap, must be greater than 0"}});
   axis.LabelFont(VRMLFontFamily::VRML_SANS);
   axis.LabelFont(static_cast<VRMLFontFamily>(7));
   axis.HeaderStyle(static_cast<VRMLFontStyle>(-1));
@@ -137,6 +125,10 @@ TEST(Axis, RejectsSizesAndIgnoresUnknownEnumerators) {
   EXPECT_EQ(axis.Alignment(), LabelAlignment::LEFT_ALIGN);
   EXPECT_EQ(axis.LabelHeight(), 1);
   EXPECT_EQ(axis.LabelTextGap(), 0.1F);
+  axis.LabelHeight(0.5F);
+  EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.2F);
+  axis.LabelTextGap(0.3F);
+  EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.6F);
 }
 
 }  // namespace

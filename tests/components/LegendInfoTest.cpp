@@ -65,10 +65,8 @@ TEST(SeriesToggleInfo, StandsItsBoxesFirstOnTop) {
   EXPECT_EQ(heights(), (std::vector<float>{5, 2.5F, 0}));
   EXPECT_EQ(std::dynamic_pointer_cast<scene::CheckBox>(toggles.Get1CheckBox(1))->boxSize.Value(),
             2);
-  EXPECT_EQ(ErrorOf([&] { toggles.Height(0); }),
-            ComponentError("Invalid height, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { toggles.Spacing(-1); }),
-            ComponentError("Invalid spacing, must be greater than 0"));
+  tests::ExpectErrors({{[&] { toggles.Height(0); }, "Invalid height, must be greater than 0"},
+                       {[&] { toggles.Spacing(-1); }, "Invalid spacing, must be greater than 0"}});
   EXPECT_EQ(ErrorOf([&] { toggles.Height(std::numeric_limits<float>::max()); }).number,
             host::ErrorNumber::Overflow);
   EXPECT_EQ(heights(), (std::vector<float>{5, 2.5F, 0}));

@@ -8,12 +8,10 @@ namespace orvane {
 namespace {
 
 TEST(FormatNumber, FollowsThePicture) {
-  struct Case {
+  const struct {
     float value;
-    const char* picture;
-    const char* text;
-  };
-  const Case cases[] = {
+    const char *picture, *text;
+  } cases[] = {
       {1234.5F, "###,##0.00", "1,234.50"},
       {0, "###,##0.00", "0.00"},
       {-2.5F, "###,##0.00", "-2.50"},
