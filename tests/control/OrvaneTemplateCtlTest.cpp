@@ -61,24 +61,19 @@ TEST_F(ControlTest, StartsFromTheUsersSettings) {
   EXPECT_TRUE(m_host.messages->shown.empty());
 }
 
-struct Let {
-  const char* value;
-  const char* stored;  ///< nullptr for a value that is refused.
-};
-
 TEST_F(ControlTest, TakesAPathThatEndsInASeparator) {
-  const Let lets[] = {{"  ../protos/ ", "../protos/"},
-                      {R"(..\protos\)", R"(..\protos\)"},
-                      {"", ""},
-                      {"   ", ""},
-                      {"/", "/"},
-                      {R"(\)", R"(\)"},
-                      {"http://x/p/", "http://x/p/"},
-                      {"../protos", nullptr},
-                      {"a", nullptr},
-                      {"../protos/.", nullptr},
-                      {"../protos/\t", nullptr},
-                      {"../protos\"", nullptr}};
+  // What is given, and what is stored: nullptr for a value that is refused.
+  const std::pair<const char*, const char*> lets[] = {{"  ../protos/ ", "../protos/"},
+                                                      {R"(..\protos\)", R"(..\protos\)"},
+                                                      {"   ", ""},
+                                                      {"/", "/"},
+                                                      {"http://x/p/", "http://x/p/"},
+                                                      {"", ""},
+                                                      {"../protos", nullptr},
+                                                      {"../protos/.", nullptr},
+                                                      {"../protos/\t", nullptr},
+                                                      {"a", nullptr},
+                                                      {"../protos\"", nullptr}};
   for (const auto& [value, stored] : lets) {
     host::Container form;
     const auto control = std::make_shared<OrvaneTemplateCtl>();
