@@ -1,31 +1,24 @@
 /// The area chart: series that follow the grid, where the parts stand, names and ROUTEs.
 
-#include "support/Raises.h"
-#include "support/Routes.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/grid/AreaGraph.h"
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
 
 using tests::ComponentError;
 using tests::ErrorOf;
+using tests::ExpectAt;
+using tests::ExpectErrors;
+using tests::Texts;
 
-std::vector<std::string> RoutesOf(AreaGraph& chart) {
-  return tests::RoutesOf(chart.ExportToString(true, true));
-}
-
-class Area : public testing::Test {
+class Area : public tests::ChartTest<AreaGraph> {
  protected:
   void SetUp() override {
     chart->GridProps()->Depth(3);
     chart->GridProps()->ZAxisCellCount(3);
   }
-  std::string Written() { return chart->ExportToString(true, true); }
-
-  std::shared_ptr<AreaGraph> chart = std::make_shared<AreaGraph>();
 };
 
 TEST_F(Area, HasASeriesForEachZCell) {
@@ -33,10 +26,8 @@ TEST_F(Area, HasASeriesForEachZCell) {
   const auto third = chart->GetSeries(3);
   first->Height().Append(1);
   chart->GridProps()->ZAxisCellCount(1);
-  EXPECT_EQ(ErrorOf([&] { (void)chart->GetSeries(2); }),
-            ComponentError("Invalid series index, series count = 1"));
-  EXPECT_EQ(ErrorOf([&] { (void)chart->GetSeries(0); }),
-            ComponentError("Invalid series index, series count = 1"));
+  ExpectErrors({{[&] { (void)chart->GetSeries(2); }, "Invalid series index, series count = 1"},
+                {[&] { (void)chart->GetSeries(0); }, "Invalid series index, series count = 1"}});
   chart->GridProps()->ZAxisCellCount(3);
   EXPECT_EQ(chart->GetSeries(1), first);
   EXPECT_EQ(first->Height().Count(), 1);
@@ -46,13 +37,10 @@ TEST_F(Area, HasASeriesForEachZCell) {
   EXPECT_EQ(std::make_shared<AreaGraph>()->GridProps()->ZAxisCellCount(), 4);
   EXPECT_EQ(ErrorOf([&] { (void)std::make_shared<AreaGraph>()->GetSeries(1); }),
             ComponentError("Invalid series index, series count = 0"));
-}
-
-TEST_F(Area, GridOutlivesItsChart) {
   const auto grid = chart->GridProps();
   chart.reset();
   grid->ZAxisCellCount(7);
-  EXPECT_EQ(grid->ZAxisCellCount(), 7);
+  EXPECT_EQ(grid->ZAxisCellCount(), 7) << "a grid outlives its chart";
 }
 
 TEST_F(Area, CentresEachSeriesInItsCell) {
@@ -83,17 +71,11 @@ TEST_F(Area, PlacesTitleLegendAndAxesByTheGrid) {
   for (const char* label : {"a", "b", "c", "d", "beyond"})
     chart->XAxisProps()->Labels().Append(label);
   Written();
-  const auto at = [](const std::shared_ptr<scene::Transform>& root) {
-    return std::vector<float>{root->translation.X(), root->translation.Y(), root->translation.Z()};
-  };
-  const auto near = [&](const std::shared_ptr<scene::Transform>& root, std::vector<float> place) {
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(at(root)[i], place[i], 1e-5) << i;
-  };
-  near(chart->TitleProps()->Root(), {5, 5.5F, 0});
-  near(chart->LegendProps()->Root(), {11, 0.5F, 0});
-  near(chart->XAxisProps()->Root(), {1, 0, 3.06F});
-  near(chart->YAxisProps()->Root(), {-0.2F, 5.5F, 3.06F});
-  near(chart->ZAxisProps()->Root(), {10.2F, 0, 0});
+  ExpectAt(*chart->TitleProps()->Root(), 5, 5.5F, 0);
+  ExpectAt(*chart->LegendProps()->Root(), 11, 0.5F, 0);
+  ExpectAt(*chart->XAxisProps()->Root(), 1, 0, 3.06F);
+  ExpectAt(*chart->YAxisProps()->Root(), -0.2F, 5.5F, 3.06F);
+  ExpectAt(*chart->ZAxisProps()->Root(), 10.2F, 0, 0);
   EXPECT_EQ(chart->XAxisProps()->Labels().Count(), 4);
   EXPECT_EQ(chart->YAxisProps()->Count(), 6);
   EXPECT_EQ(chart->YAxisProps()->LabelTextGap(), 1);
@@ -105,27 +87,24 @@ TEST_F(Area, PlacesTitleLegendAndAxesByTheGrid) {
 TEST_F(Area, RoutesTheBoxOfEachShownSeries) {
   chart->LegendProps()->UseSeriesToggle(true);
   chart->GetSeries(2)->ShowInLegend(false);
-  const std::vector<std::string> routes = {
-      "CHECK_BOX_1.value_changed TO SERIES_TOGGLE_1.set_contentsExist",
-      "CHECK_BOX_2.value_changed TO SERIES_TOGGLE_3.set_contentsExist"};
-  EXPECT_EQ(RoutesOf(*chart), routes);
-  EXPECT_EQ(RoutesOf(*chart), routes) << "once each, however often the chart is written";
+  const Texts routes = {"CHECK_BOX_1.value_changed TO SERIES_TOGGLE_1.set_contentsExist",
+                        "CHECK_BOX_2.value_changed TO SERIES_TOGGLE_3.set_contentsExist"};
+  EXPECT_EQ(Routes(), routes);
+  EXPECT_EQ(Routes(), routes) << "once each, however often the chart is written";
 }
 
 TEST_F(Area, ForgetsNamesAndRoutesThatAreSwitchedOff) {
   const std::string before = Written();
-  chart->LegendProps()->UseSeriesToggle(true);
-  chart->InteractivityProps()->UseXAxisDrillDown(true);
-  chart->InteractivityProps()->UseZAxisDrillDown(true);
-  chart->InteractivityProps()->UseDrillUp(true);
-  chart->GetSeries(1)->PopupProps()->UsePopups(true);
-  EXPECT_EQ(RoutesOf(*chart).back(),
-            "Z_AXIS_DRILL_DOWN.mouseClickedIndex TO Z_AXIS_ROUTER.set_linkIndex");
-  chart->LegendProps()->UseSeriesToggle(false);
-  chart->InteractivityProps()->UseXAxisDrillDown(false);
-  chart->InteractivityProps()->UseZAxisDrillDown(false);
-  chart->InteractivityProps()->UseDrillUp(false);
-  chart->GetSeries(1)->PopupProps()->UsePopups(false);
+  const auto turn = [&](bool on) {
+    chart->LegendProps()->UseSeriesToggle(on);
+    chart->InteractivityProps()->UseXAxisDrillDown(on);
+    chart->InteractivityProps()->UseZAxisDrillDown(on);
+    chart->InteractivityProps()->UseDrillUp(on);
+    chart->GetSeries(1)->PopupProps()->UsePopups(on);
+  };
+  turn(true);
+  EXPECT_EQ(Routes().back(), "Z_AXIS_DRILL_DOWN.mouseClickedIndex TO Z_AXIS_ROUTER.set_linkIndex");
+  turn(false);
   EXPECT_EQ(Written(), before);
 }
 
@@ -141,9 +120,7 @@ TEST_F(Area, StandsConesAlongTheEdges) {
   const auto z = navigation->ZAxisDrillDownProps();
   EXPECT_EQ(x->Count(), 4);
   EXPECT_EQ(x->Spacing(), 2);
-  EXPECT_FLOAT_EQ(x->Root()->translation.X(), 1);
-  EXPECT_FLOAT_EQ(x->Root()->translation.Y(), 1.1F);
-  EXPECT_FLOAT_EQ(x->Root()->translation.Z(), 3);
+  ExpectAt(*x->Root(), 1, 1.1F, 3);
   EXPECT_EQ(z->Count(), 3);
   EXPECT_FLOAT_EQ(z->Root()->translation.X(), 8);
   EXPECT_FLOAT_EQ(z->Root()->translation.Z(), 0.5F);
@@ -159,28 +136,12 @@ TEST_F(Area, GivesPopupsTheHeightsAndSizesOfTheSeries) {
   EXPECT_EQ(series->PopupProps()->Height().Items(), (std::vector<float>{1, -2, 3.5F}));
   EXPECT_FLOAT_EQ(series->PopupProps()->radius(), 0.2F);
   EXPECT_FLOAT_EQ(series->PopupProps()->Depth(), 0.525F);
-  EXPECT_EQ(ErrorOf([&] { series->Depth(0); }),
-            ComponentError("Invalid series depth, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { series->Depth(std::numeric_limits<float>::max()); }).number,
-            host::ErrorNumber::Overflow);
-  EXPECT_EQ(ErrorOf([&] { series->Count(0); }),
-            ComponentError("Invalid count, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { series->Spacing(-1); }),
-            ComponentError("Invalid spacing, must be greater than 0"));
+  ExpectErrors({{[&] { series->Depth(0); }, "Invalid series depth, must be greater than 0"},
+                {[&] { series->Count(0); }, "Invalid count, must be greater than 0"},
+                {[&] { series->Spacing(-1); }, "Invalid spacing, must be greater than 0"}});
+  EXPECT_EQ(ErrorOf([&] { series->Depth(3.4e38F); }).number, host::ErrorNumber::Overflow);
   EXPECT_EQ(series->Depth(), 0.5F);
   EXPECT_FLOAT_EQ(series->PopupProps()->Depth(), 0.525F);
-}
-
-TEST_F(Area, WritesToAFileWhatItWritesToAString) {
-  const auto file = testing::TempDir() + "orvane_area.wrl";
-  EXPECT_TRUE(chart->ExportToFile(file));
-  std::FILE* written = std::fopen(file.c_str(), "rb");
-  std::string text(1 << 20, '\0');
-  text.resize(std::fread(text.data(), 1, text.size(), written));
-  std::fclose(written);
-  std::remove(file.c_str());
-  EXPECT_EQ(text, Written());
-  EXPECT_FALSE(chart->ExportToFile("/no/such/folder/chart.wrl"));
 }
 
 }  // namespace

@@ -1,36 +1,22 @@
 /// The column chart: slots and rows of series, where columns stand, two-level names.
 
-#include "support/Raises.h"
-#include "support/Routes.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/grid/ColumnGraph.h"
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
 
-using tests::ComponentError;
-using tests::ErrorOf;
-
-class Columns : public testing::Test {
+class Columns : public tests::ChartTest<ColumnGraph> {
  protected:
-  std::string Written() { return chart->ExportToString(true, true); }
   float X(std::int16_t row, std::int16_t slot) {
     return chart->GetSeries(row, slot)->Root()->translation.X();
   }
-
-  std::shared_ptr<ColumnGraph> chart = std::make_shared<ColumnGraph>();
 };
 
-TEST_F(Columns, BeginWithOneSlotOfTheGridsRows) {
-  EXPECT_EQ(chart->ColumnsPerCell(), 1);
-  EXPECT_EQ(chart->ColumnSpacingStyle(), ColumnCellSpacing::EVENLY_SPACED);
+TEST_F(Columns, KeepSlotsAndRowsInStepWithTheirCounts) {
   EXPECT_EQ(chart->GetSeries(4)->Depth(), 1);
   EXPECT_EQ(chart->GetSeries(1), chart->GetSeries(1, 1));
-}
-
-TEST_F(Columns, KeepSlotsAndRowsInStepWithTheirCounts) {
   const auto kept = chart->GetSeries(2);
   chart->ColumnsPerCell(3);
   chart->GridProps()->Depth(6);
@@ -40,23 +26,15 @@ TEST_F(Columns, KeepSlotsAndRowsInStepWithTheirCounts) {
   chart->GridProps()->ZAxisCellCount(2);
   chart->ColumnsPerCell(2);
   EXPECT_EQ(chart->GetSeries(2), kept);
-  struct Case {
-    std::int16_t row, slot;
-    const char* message;
-  };
-  const Case cases[] = {
-      {1, 0, "Invalid cell index, there are currently 2 column(s) in each cell"},
-      {1, 3, "Invalid cell index, there are currently 2 column(s) in each cell"},
-      {9, 3, "Invalid cell index, there are currently 2 column(s) in each cell"},
-      {0, 1, "Invalid series index, series count = 2"},
-      {3, 2, "Invalid series index, series count = 2"},
-  };
-  for (const auto& test : cases) {
-    EXPECT_EQ(ErrorOf([&] { (void)chart->GetSeries(test.row, test.slot); }),
-              ComponentError(test.message));
-  }
-  EXPECT_EQ(ErrorOf([&] { chart->ColumnsPerCell(0); }),
-            ComponentError("The number of columns per cell must be greater than or equal to 1"));
+  const std::string cell = "Invalid cell index, there are currently 2 column(s) in each cell";
+  const std::string series = "Invalid series index, series count = 2";
+  tests::ExpectErrors({{[&] { (void)chart->GetSeries(1, 0); }, cell},
+                       {[&] { (void)chart->GetSeries(1, 3); }, cell},
+                       {[&] { (void)chart->GetSeries(9, 3); }, cell},
+                       {[&] { (void)chart->GetSeries(0, 1); }, series},
+                       {[&] { (void)chart->GetSeries(3, 2); }, series},
+                       {[&] { chart->ColumnsPerCell(0); },
+                        "The number of columns per cell must be greater than or equal to 1"}});
   EXPECT_EQ(chart->ColumnsPerCell(), 2);
 }
 
@@ -92,10 +70,9 @@ TEST_F(Columns, RouteTwoLevelNames) {
   chart->GetSeries(1, 2)->LegendText("x");
   const std::string before = Written();
   EXPECT_EQ(tests::RoutesOf(before),
-            (std::vector<std::string>{
-                "CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
-                "CHECK_BOX_2_1.value_changed TO SERIES_TOGGLE_2_1.set_contentsExist",
-                "CHECK_BOX_2_2.value_changed TO SERIES_TOGGLE_2_2.set_contentsExist"}));
+            (tests::Texts{"CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
+                          "CHECK_BOX_2_1.value_changed TO SERIES_TOGGLE_2_1.set_contentsExist",
+                          "CHECK_BOX_2_2.value_changed TO SERIES_TOGGLE_2_2.set_contentsExist"}));
   EXPECT_EQ(Written(), before);
 }
 

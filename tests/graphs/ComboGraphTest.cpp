@@ -1,32 +1,25 @@
 /// The combination charts: surfaces beside series, in the scene and in the legend.
 
-#include "support/Raises.h"
-#include "support/Routes.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 
-#include <gtest/gtest.h>
-
 namespace orvane {
 namespace {
 
-using tests::ComponentError;
-using tests::ErrorOf;
 using tests::RoutesOf;
+using tests::Texts;
 
 template <class G>
-class Combo : public testing::Test {
+class Combo : public tests::ChartTest<G> {
  protected:
-  std::string Written() { return chart->ExportToString(true, true); }
   /// A Group of the root, counted from the last: the surfaces' is 0, the series' is 1.
   const scene::MFNode& GroupFromLast(int index) {
-    const auto& children = chart->RootNode()->children;
+    const auto& children = this->chart->RootNode()->children;
     return std::dynamic_pointer_cast<scene::Group>(children.Item(children.Count() - index))
         ->children;
   }
-
-  std::shared_ptr<G> chart = std::make_shared<G>();
 };
 
 using Charts = testing::Types<SCComboGraph, RCComboGraph>;
@@ -45,10 +38,9 @@ TYPED_TEST(Combo, KeepsSurfacesBehindTheSeriesInAGroupOfTheirOwn) {
   EXPECT_EQ(this->GroupFromLast(0).Item(2), chart.GetSurface(2)->RootNode());
   EXPECT_EQ(this->GroupFromLast(1).Count(), 3);
   EXPECT_EQ(chart.GetSurface(1)->Root()->translation.X(), 1);
-  EXPECT_EQ(ErrorOf([&] { (void)chart.GetSurface(3); }),
-            ComponentError("Invalid surface index, surface count = 2"));
-  EXPECT_EQ(ErrorOf([&] { (void)chart.GetSeries(4); }),
-            ComponentError("Invalid series index, series count = 3"));
+  tests::ExpectErrors(
+      {{[&] { (void)chart.GetSurface(3); }, "Invalid surface index, surface count = 2"},
+       {[&] { (void)chart.GetSeries(4); }, "Invalid series index, series count = 3"}});
 }
 
 TYPED_TEST(Combo, LeavesTheCountsOfItsSurfacesToThem) {
@@ -83,8 +75,6 @@ TYPED_TEST(Combo, PopsUpInFrontOfTheDeepestSeries) {
 
 TEST(ColumnCombo, IsAColumnChartOtherwise) {
   const auto chart = std::make_shared<SCComboGraph>();
-  EXPECT_EQ(chart->ColumnsPerCell(), 1);
-  EXPECT_EQ(chart->ColumnSpacingStyle(), ColumnCellSpacing::EVENLY_SPACED);
   chart->ColumnsPerCell(2);
   chart->SurfaceCount(1);
   chart->GetSeries(4, 2)->Depth(1.5F);
@@ -107,18 +97,17 @@ TEST(Combos, RouteTheBoxesBehindThoseOfTheSeries) {
     return routes;
   };
   EXPECT_EQ(prepare(*columns),
-            (std::vector<std::string>{
-                "CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
-                "CHECK_BOX_1_3.value_changed TO SERIES_TOGGLE_1_3.set_contentsExist",
-                "CHECK_BOX_1_4.value_changed TO SERIES_TOGGLE_1_4.set_contentsExist",
-                "CHECK_BOX_4.value_changed TO SURFACE_1.set_contentsExist",
-                "CHECK_BOX_5.value_changed TO SURFACE_3.set_contentsExist"}));
-  EXPECT_EQ(prepare(*ribbons), (std::vector<std::string>{
-                                   "CHECK_BOX_1.value_changed TO SERIES_TOGGLE_1.set_contentsExist",
-                                   "CHECK_BOX_2.value_changed TO SERIES_TOGGLE_3.set_contentsExist",
-                                   "CHECK_BOX_3.value_changed TO SERIES_TOGGLE_4.set_contentsExist",
-                                   "CHECK_BOX_4.value_changed TO SURFACE_1.set_contentsExist",
-                                   "CHECK_BOX_5.value_changed TO SURFACE_3.set_contentsExist"}));
+            (Texts{"CHECK_BOX_1_1.value_changed TO SERIES_TOGGLE_1_1.set_contentsExist",
+                   "CHECK_BOX_1_3.value_changed TO SERIES_TOGGLE_1_3.set_contentsExist",
+                   "CHECK_BOX_1_4.value_changed TO SERIES_TOGGLE_1_4.set_contentsExist",
+                   "CHECK_BOX_4.value_changed TO SURFACE_1.set_contentsExist",
+                   "CHECK_BOX_5.value_changed TO SURFACE_3.set_contentsExist"}));
+  EXPECT_EQ(prepare(*ribbons),
+            (Texts{"CHECK_BOX_1.value_changed TO SERIES_TOGGLE_1.set_contentsExist",
+                   "CHECK_BOX_2.value_changed TO SERIES_TOGGLE_3.set_contentsExist",
+                   "CHECK_BOX_3.value_changed TO SERIES_TOGGLE_4.set_contentsExist",
+                   "CHECK_BOX_4.value_changed TO SURFACE_1.set_contentsExist",
+                   "CHECK_BOX_5.value_changed TO SURFACE_3.set_contentsExist"}));
 }
 
 }  // namespace

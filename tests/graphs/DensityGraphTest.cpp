@@ -1,24 +1,16 @@
 /// The density chart: its lattices, hills, axes, names and ROUTEs.
 
-#include "support/Raises.h"
-#include "support/Routes.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/surface/DensityGraph.h"
 
-#include <algorithm>
-#include <functional>
 #include <limits>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
 
-using tests::ComponentError;
 using tests::ErrorOf;
-using tests::RoutesOf;
+using tests::ExpectAt;
 
 /// The heights of the shaded surface, which those of the wires must equal.
 std::vector<float> HeightsOf(const DensitySurfaceInfo& surface) {
@@ -30,7 +22,7 @@ std::vector<float> HeightsOf(const DensitySurfaceInfo& surface) {
   return surface.Heights();
 }
 
-class Density : public testing::Test {
+class Density : public tests::ChartTest<DensityGraph> {
  protected:
   /// A floor of 8 x 4 in 4 x 2 cells: a lattice of 13 x 7 points.
   Density() {
@@ -42,15 +34,11 @@ class Density : public testing::Test {
     chart->SurfaceCount(1);
   }
 
-  std::string Written() { return chart->ExportToString(true, true); }
-
   std::vector<float> HeightsWith(float sigma) {
     chart->Sigma(sigma);
     Written();
     return HeightsOf(*chart->GetSurface(1));
   }
-
-  std::shared_ptr<DensityGraph> chart = std::make_shared<DensityGraph>();
 };
 
 TEST_F(Density, CoversTheFloorWithThreePointsACell) {
@@ -60,36 +48,11 @@ TEST_F(Density, CoversTheFloorWithThreePointsACell) {
   EXPECT_EQ(surface->ZCount(), 7);
   EXPECT_FLOAT_EQ(surface->XSpacing(), 2.0F / 3);
   EXPECT_FLOAT_EQ(surface->ZSpacing(), 2.0F / 3);
-  EXPECT_EQ(surface->Root()->translation.X(), 0);
-  EXPECT_EQ(surface->Root()->translation.Y(), 0.02F);
-  EXPECT_EQ(surface->Root()->translation.Z(), 0);
+  ExpectAt(*surface->Root(), 0, 0.02F, 0);
   EXPECT_EQ(HeightsOf(*surface), std::vector<float>(91)) << "flat without points";
   chart->GridProps()->ZAxisCellCount(5);
   Written();
   EXPECT_EQ(HeightsOf(*surface).size(), 13U * 16);
-}
-
-TEST_F(Density, FallsFromThePointToTheFarthestCorner) {
-  chart->GetSurface(1)->PointList().Append(0, 0);
-  const auto heights = HeightsWith(0.8F);
-  EXPECT_EQ(heights.front(), 6);
-  EXPECT_EQ(heights.back(), 0);
-  for (std::size_t x = 1; x < 13; ++x) EXPECT_LT(heights[x], heights[x - 1]) << x;
-  for (std::size_t z = 1; z < 7; ++z) EXPECT_LT(heights[13 * z], heights[13 * (z - 1)]) << z;
-}
-
-TEST_F(Density, SpreadsWithSigmaBetweenTheSameExtremes) {
-  auto& points = chart->GetSurface(1)->PointList();
-  points.Append(4, 2);
-  points.Append(4, 2);
-  const auto narrow = HeightsWith(0.5F);
-  const auto wide = HeightsWith(2);
-  for (const auto& heights : {narrow, wide}) {
-    EXPECT_FLOAT_EQ(std::ranges::max(heights), 6);
-    EXPECT_EQ(std::ranges::min(heights), 0);
-    EXPECT_EQ(std::ranges::max_element(heights) - heights.begin(), 13 * 3 + 6);
-  }
-  EXPECT_GT(wide[13 * 3 + 8], narrow[13 * 3 + 8]);
 }
 
 TEST_F(Density, LiesFlatWhereNoPlaceIsDenserAndIsWrittenAllTheSame) {
@@ -104,6 +67,7 @@ TEST_F(Density, TakesPointsSigmaAndGridAtExport) {
   const auto surface = chart->GetSurface(1);
   surface->PointList().Append(4, 2);
   const auto before = HeightsWith(0.5F);
+  EXPECT_EQ(before[13 * 3 + 6], 6) << "the height of the grid, at the point";
   surface->PointList().Append(0, 0);
   chart->Sigma(0.9F);
   EXPECT_EQ(HeightsOf(*surface), before);
@@ -116,20 +80,15 @@ TEST_F(Density, TakesPointsSigmaAndGridAtExport) {
 TEST_F(Density, RejectsAndChangesNothing) {
   const auto surface = chart->GetSurface(1);
   const std::string badSigma = "Invalid sigma value, must be greater than 0";
-  const struct {
-    std::function<void()> call;
-    std::string message;
-  } cases[] = {
-      {[&] { chart->Sigma(0); }, badSigma},
-      {[&] { chart->Sigma(-1); }, badSigma},
-      {[&] { surface->Sigma(0); }, badSigma},
-      {[&] { surface->Sigma(std::numeric_limits<float>::quiet_NaN()); }, badSigma},
-      {[&] { (void)chart->GetSurface(0); }, "Invalid density surface index, surface count = 1"},
-      {[&] { (void)chart->GetSurface(2); }, "Invalid density surface index, surface count = 1"},
-      {[&] { surface->XCount(1); }, "Invalid X axis surface point count, must be greater than 1"},
-      {[&] { surface->ZSpacing(0); }, "Invalid Z axis surface spacing, must be greater than 0"},
-  };
-  for (const auto& test : cases) EXPECT_EQ(ErrorOf(test.call), ComponentError(test.message));
+  const std::string index = "Invalid density surface index, surface count = 1";
+  tests::ExpectErrors(
+      {{[&] { chart->Sigma(0); }, badSigma},
+       {[&] { surface->Sigma(-1); }, badSigma},
+       {[&] { surface->Sigma(std::numeric_limits<float>::quiet_NaN()); }, badSigma},
+       {[&] { (void)chart->GetSurface(0); }, index},
+       {[&] { (void)chart->GetSurface(2); }, index},
+       {[&] { surface->XCount(1); }, "Invalid X axis surface point count, must be greater than 1"},
+       {[&] { surface->ZSpacing(0); }, "Invalid Z axis surface spacing, must be greater than 0"}});
   EXPECT_EQ(chart->Sigma(), 0.8F);
   EXPECT_EQ(surface->Sigma(), 0.5F);
   EXPECT_EQ(surface->XCount(), 2);
@@ -153,16 +112,12 @@ TEST_F(Density, LabelsEveryGridLine) {
   chart->XAxisProps()->LabelHeight(0.5F);
   chart->ZAxisProps()->LabelHeight(0.25F);
   Written();
-  const auto x = chart->XAxisProps()->Root();
   EXPECT_EQ(chart->XAxisProps()->Count(), 5);
   EXPECT_EQ(chart->XAxisProps()->Order(), LabelingOrder::MIN_TO_MAX);
-  EXPECT_EQ(x->translation.X(), -0.25F);
-  EXPECT_FLOAT_EQ(x->translation.Z(), 4.08F);
-  const auto z = chart->ZAxisProps()->Root();
+  ExpectAt(*chart->XAxisProps()->Root(), -0.25F, 0, 4.08F);
   EXPECT_EQ(chart->ZAxisProps()->Count(), 3);
   EXPECT_EQ(chart->ZAxisProps()->Order(), LabelingOrder::MIN_TO_MAX);
-  EXPECT_FLOAT_EQ(z->translation.X(), 8.16F);
-  EXPECT_EQ(z->translation.Z(), -0.125F);
+  ExpectAt(*chart->ZAxisProps()->Root(), 8.16F, 0, -0.125F);
 }
 
 TEST_F(Density, HasItsDrillUpConeOnceAndLast) {
@@ -174,10 +129,7 @@ TEST_F(Density, HasItsDrillUpConeOnceAndLast) {
   Written();
   ASSERT_EQ(chart->RootNode()->children.Count(), countOfRoots + 1);
   EXPECT_EQ(chart->RootNode()->children.Item(countOfRoots + 1), chart->DrillUpProps()->RootNode());
-  const auto& place = chart->DrillUpProps()->Root()->translation;
-  EXPECT_EQ(place.X(), 8);
-  EXPECT_FLOAT_EQ(place.Y(), 1.1F);
-  EXPECT_EQ(place.Z(), 4);
+  ExpectAt(*chart->DrillUpProps()->Root(), 8, 1.1F, 4);
   chart->UseDrillUp(false);
   Written();
   EXPECT_EQ(chart->RootNode()->children.Count(), countOfRoots);
@@ -189,9 +141,8 @@ TEST_F(Density, RoutesTheBoxOfEachEntry) {
   chart->GetSurface(1)->LegendText("Here");
   chart->GetSurface(2)->LegendText("  ");
   chart->GetSurface(3)->LegendText("There");
-  EXPECT_EQ(RoutesOf(Written()),
-            (std::vector<std::string>{"CHECK_BOX_1.value_changed TO SURFACE_1.set_contentsExist",
-                                      "CHECK_BOX_2.value_changed TO SURFACE_3.set_contentsExist"}));
+  EXPECT_EQ(Routes(), (tests::Texts{"CHECK_BOX_1.value_changed TO SURFACE_1.set_contentsExist",
+                                    "CHECK_BOX_2.value_changed TO SURFACE_3.set_contentsExist"}));
 }
 
 }  // namespace

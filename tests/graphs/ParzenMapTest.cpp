@@ -69,17 +69,16 @@ TEST(ParzenMap, IsTheDefinitionWhereFewPowersDecide) {
 }
 
 TEST(ParzenMap, IsTheDefinitionOnAwkwardClouds) {
-  struct Case {
-    std::string name;
-    Cloud cloud;
-    float sigma;
-  };
   const Cloud same(3000, {1.7F, 0.4F});
   const Cloud onLattice{{0, 0}, {0.3F, 0.3F}, {6, 0}, {-0.0F, 3}, {6, 3}};
   const Cloud outside{{-2, 1}, {9, 1}, {3, -8}, {3, 40}, {-1e9F, 2}, {1e30F, -3e38F}};
   const float largest = std::numeric_limits<float>::max();
   const Cloud cornersOfAll{{largest, -largest}, {-largest, largest}, {1, 1}};
-  const std::vector<Case> cases{
+  const struct {
+    std::string name;
+    Cloud cloud;
+    float sigma;
+  } cases[] = {
       {"none", {}, 0.5F},
       {"one at a corner", {{0, 0}}, 0.8F},
       {"all in one place", same, 0.9F},
@@ -109,12 +108,8 @@ TEST(ParzenMap, StaysFiniteWhereTwiceTheSquareOfSigmaIsNoFloat) {
 }
 
 TEST(ScaleHeights, SpansTheRangeOrLiesFlat) {
-  struct Case {
-    std::vector<float> heights;
-    std::vector<float> expected;
-  };
   const float tiny = std::numeric_limits<float>::denorm_min();
-  const std::vector<Case> cases{
+  const std::pair<std::vector<float>, std::vector<float>> cases[] = {
       {{}, {}},         {{2, 4, 3}, {0, 8, 4}}, {{-1, 0, 1}, {0, 4, 8}}, {{5, 5, 5}, {0, 0, 0}},
       {{0, 0}, {0, 0}}, {{0, tiny}, {0, 0}},  // A scale of 8 / tiny is no float.
   };

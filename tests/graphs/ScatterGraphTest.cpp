@@ -1,14 +1,11 @@
 /// The scatter chart: points, frames, both kinds of animation, and exports that never differ.
 
-#include "support/Raises.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/scatter/ScatterGraph.h"
 
 #include <functional>
 #include <limits>
-#include <regex>
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
@@ -16,6 +13,11 @@ namespace {
 using host::ErrorNumber;
 using tests::ComponentError;
 using tests::ErrorOf;
+using tests::ExpectAt;
+using tests::ExpectErrors;
+using tests::Texts;
+
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
 /// The node below `node`, itself included, that is called `name`; nullptr when there is none.
 const scene::Node* Find(const scene::Node& node, const std::string& name) {
@@ -30,18 +32,8 @@ const scene::Node* Find(const scene::Node& node, const std::string& name) {
   return found;
 }
 
-class Scatter : public testing::Test {
+class Scatter : public tests::ChartTest<ScatterGraph> {
  protected:
-  std::string Written() { return chart->ExportToString(true, true); }
-  std::vector<std::string> Routes() {
-    const std::string text = Written();
-    std::vector<std::string> routes;
-    const std::regex line("\nROUTE ([^\n]*)");
-    for (std::sregex_iterator at(text.begin(), text.end(), line), end; at != end; ++at) {
-      routes.push_back((*at)[1].str());
-    }
-    return routes;
-  }
   template <class N>
   const N* Node(const std::string& name) {
     return dynamic_cast<const N*>(Find(*chart->RootNode(), name));
@@ -69,50 +61,41 @@ class Scatter : public testing::Test {
     for (int i = 1; i <= count; ++i) frames.push_back({static_cast<float>(i)});
     Fill(frames);
   }
-
-  std::shared_ptr<ScatterGraph> chart = std::make_shared<ScatterGraph>();
 };
 
-TEST_F(Scatter, KeepsTheFramesThatStay) {
-  EXPECT_EQ(ErrorOf([&] { chart->PointFrameCount(0); }),
-            ComponentError("There must be at least one point frame in the scene"));
+TEST_F(Scatter, KeepsTheFramesThatStayAndTheirGap) {
   chart->PointFrameCount(5);
   const auto second = chart->Get1PointFrame(2);
   chart->PointFrameCount(2);
-  EXPECT_EQ(chart->Get1PointFrame(2), second);
+  chart->FrameTimeGap(2.5);
+  const std::string gap = "The frame time gap must take at least 1 second";
+  const std::string index = "Invalid index into the list";
+  ExpectErrors({{[&] { chart->FrameTimeGap(0.999); }, gap},
+                {[&] { chart->FrameTimeGap(-1); }, gap},
+                {[&] { chart->FrameTimeGap(kNaN); }, gap},
+                {[&] { (void)chart->Get1PointFrame(0); }, index},
+                {[&] { (void)chart->Get1PointFrame(3); }, index},
+                {[&] { chart->PointFrameCount(0); },
+                 "There must be at least one point frame in the scene"}});
   EXPECT_EQ(ErrorOf([&] { chart->PointFrameCount(-1); }).number, ErrorNumber::Component);
   EXPECT_EQ(chart->PointFrameCount(), 2);
-  for (const auto index : {std::int16_t{0}, std::int16_t{3}}) {
-    EXPECT_EQ(ErrorOf([&] { (void)chart->Get1PointFrame(index); }),
-              ComponentError("Invalid index into the list"));
-  }
-}
-
-TEST_F(Scatter, TakesAtLeastASecondAFrame) {
-  chart->FrameTimeGap(2.5);
-  for (const double gap : {0.999, 0.0, -1.0, std::numeric_limits<double>::quiet_NaN()}) {
-    EXPECT_EQ(ErrorOf([&] { chart->FrameTimeGap(gap); }),
-              ComponentError("The frame time gap must take at least 1 second"));
-    EXPECT_EQ(chart->FrameTimeGap(), 2.5);
-  }
+  EXPECT_EQ(chart->Get1PointFrame(2), second);
+  EXPECT_EQ(chart->FrameTimeGap(), 2.5);
   chart->FrameTimeGap(1);
   EXPECT_EQ(chart->FrameTimeGap(), 1);
 }
 
-struct Cycle {
-  LoopStyle style;
-  int frames;
-  double gap;
-  std::vector<float> sequence;
-  std::vector<float> keys;
-  double seconds;
-  bool loop;
-};
-
 TEST_F(Scatter, PassesItsFramesAsItsLoopStyleSays) {
   using enum LoopStyle;
   // Keys are sums of the step, or multiples of it, in 32-bit arithmetic: the last digits differ.
-  const Cycle cycles[] = {
+  const struct {
+    LoopStyle style;
+    int frames;
+    double gap;
+    std::vector<float> sequence, keys;
+    double seconds;
+    bool loop;
+  } cycles[] = {
       {VRML_NO_LOOP, 2, 2.5, {1, 2}, {0, 0.99F}, 2.5, false},
       {VRML_LOOP_BREAK, 2, 2.5, {1, 2}, {0, 0.99F}, 2.5, true},
       {static_cast<LoopStyle>(7), 3, 1, {1, 2, 3}, {0, 0.495F, 0.99F}, 2, false},
@@ -140,9 +123,8 @@ TEST_F(Scatter, PassesItsFramesAsItsLoopStyleSays) {
     Fill(cycle.frames);
     chart->FrameTimeGap(cycle.gap);
     chart->AnimationLoopStyle(cycle.style);
-    EXPECT_EQ(Routes(), (std::vector<std::string>{
-                            "TIME_KEEPER.fraction_changed TO LOC_INT.set_fraction",
-                            "LOC_INT.value_changed TO POINT_COLLECTION.set_locations"}));
+    EXPECT_EQ(Routes(), (Texts{"TIME_KEEPER.fraction_changed TO LOC_INT.set_fraction",
+                               "LOC_INT.value_changed TO POINT_COLLECTION.set_locations"}));
     EXPECT_EQ(XOfKeyValues(), cycle.sequence);
     EXPECT_EQ(Interpolator().key.Items(), cycle.keys);
     const auto* timer = Node<scene::TimeSensor>("TIME_KEEPER");
@@ -154,38 +136,33 @@ TEST_F(Scatter, PassesItsFramesAsItsLoopStyleSays) {
 }
 
 TEST_F(Scatter, RepeatsTheLastPointOfShorterFrames) {
-  const struct {
-    std::vector<std::vector<float>> frames;
-    std::vector<float> keyValues;
-  } cases[] = {
+  const std::pair<std::vector<std::vector<float>>, std::vector<float>> cases[] = {
       {{{1, 2}, {11, 12, 13, 14, 15}, {21, 22, 23}},
        {1, 2, 2, 2, 2, 11, 12, 13, 14, 15, 21, 22, 23, 23, 23}},
       {{{}, {11, 12}, {}, {31}}, {0, 0, 11, 12, 12, 12, 31, 31}},
       {{{}, {}}, {}},
   };
-  for (const auto& test : cases) {
-    Fill(test.frames);
+  for (const auto& [frames, keyValues] : cases) {
+    Fill(frames);
     Written();
-    EXPECT_EQ(XOfKeyValues(), test.keyValues);
-    EXPECT_EQ(Interpolator().key.Count(), static_cast<int>(test.frames.size()));
+    EXPECT_EQ(XOfKeyValues(), keyValues);
+    EXPECT_EQ(Interpolator().key.Count(), static_cast<int>(frames.size()));
   }
 }
 
-TEST_F(Scatter, StandsStillWithOneFrame) {
-  Fill(std::vector<std::vector<float>>{{1, 2}});
-  EXPECT_TRUE(Routes().empty());
-  EXPECT_EQ(Interpolator().key.Count() + Interpolator().keyValue.Count(), 0);
-  EXPECT_EQ(Node<scene::TimeSensor>("TIME_KEEPER")->cycleInterval.Value(), 1);
-  EXPECT_NE(Written().find("locations [ 1 1 2, 2 1 2 ]"), std::string::npos);
-}
-
-TEST_F(Scatter, NeedsAFrameToMoveButNoneToChooseFrom) {
+TEST_F(Scatter, StandsStillWithOneFrameAndHasNoChoiceWithoutAny) {
   EXPECT_EQ(ErrorOf([&] { Written(); }), ComponentError("Invalid index into the list"));
   chart->PointAnimationStyle(AnimationStyle::VRML_DISCRETE);
   EXPECT_TRUE(Routes().empty());
   EXPECT_EQ(Node<scene::Switch>("FRAME_SWITCH")->choice.Count(), 0);
   EXPECT_EQ(Node<scene::Switch>("FRAME_SWITCH")->whichChoice.Value(), 0);
   EXPECT_EQ(Node<scene::Slider>("FRAME_SLIDER"), nullptr);
+  chart->PointAnimationStyle(AnimationStyle::VRML_ANALOG);
+  Fill(std::vector<std::vector<float>>{{1, 2}});
+  EXPECT_TRUE(Routes().empty());
+  EXPECT_EQ(Interpolator().key.Count() + Interpolator().keyValue.Count(), 0);
+  EXPECT_EQ(Node<scene::TimeSensor>("TIME_KEEPER")->cycleInterval.Value(), 1);
+  EXPECT_NE(Written().find("locations [ 1 1 2, 2 1 2 ]"), std::string::npos);
 }
 
 TEST_F(Scatter, LetsTheSliderChooseAFrame) {
@@ -195,11 +172,9 @@ TEST_F(Scatter, LetsTheSliderChooseAFrame) {
   chart->GridProps()->Width(10);
   chart->XAxisProps()->LabelHeight(0.4F);
   chart->TitleProps()->TextColor(0x123456);
-  EXPECT_EQ(Routes(),
-            std::vector<std::string>{"FRAME_SLIDER.value_changed TO FRAME_SWITCH.set_whichChoice"});
+  EXPECT_EQ(Routes(), Texts{"FRAME_SLIDER.value_changed TO FRAME_SWITCH.set_whichChoice"});
   const auto slider = chart->FrameSlider();
-  EXPECT_EQ(slider->Labels().Items(),
-            (std::vector<std::string>{"Point frame 1", "B", "Point frame 3"}));
+  EXPECT_EQ(slider->Labels().Items(), (Texts{"Point frame 1", "B", "Point frame 3"}));
   EXPECT_EQ(slider->SliderMax(), 2);
   EXPECT_FLOAT_EQ(slider->SliderLength(), 1.8F);
   EXPECT_EQ(slider->LabelColor(), 0x123456);
@@ -254,36 +229,25 @@ TEST_F(Scatter, PlacesItsPartsByTheGrid) {
   chart->ZAxisProps()->LabelHeight(0.6F);
   chart->ZAxisProps()->Max(8);
   chart->UseDrillUp(true);
-  Written();
-  const auto expectAt = [](const scene::Transform& root, const std::vector<float>& place) {
-    EXPECT_FLOAT_EQ(root.translation.X(), place[0]);
-    EXPECT_FLOAT_EQ(root.translation.Y(), place[1]);
-    EXPECT_FLOAT_EQ(root.translation.Z(), place[2]);
-  };
-  expectAt(*chart->TitleProps()->Root(), {5, 5.5F, 0});
-  expectAt(*chart->LegendProps()->Root(), {11, 0.5F, 0});
-  expectAt(*chart->DrillUpProps()->Root(), {10, 0.55F, 4});
-  expectAt(*chart->XAxisProps()->Root(), {-0.25F, 0, 4.2F});
-  expectAt(*chart->YAxisProps()->Root(), {-0.2F, 5.5F, 4.08F});
-  expectAt(*chart->ZAxisProps()->Root(), {10.2F, 0, -0.3F});
-  const struct {
-    ContinuousAxis& axis;
-    std::int16_t count;
-    float gap;
-    LabelAlignment alignment;
-    LabelingOrder order;
-  } axes[] = {
-      {*chart->XAxisProps(), 5, 2.5F, LabelAlignment::RIGHT_ALIGN, LabelingOrder::MIN_TO_MAX},
-      {*chart->YAxisProps(), 6, 1, LabelAlignment::RIGHT_ALIGN, LabelingOrder::MAX_TO_MIN},
-      {*chart->ZAxisProps(), 3, 2, LabelAlignment::LEFT_ALIGN, LabelingOrder::MIN_TO_MAX},
-  };
-  for (const auto& [axis, count, gap, alignment, order] : axes) {
+  EXPECT_NE(Written().find("[ \"0.00\", \"4.00\", \"8.00\" ]"), std::string::npos);
+  ExpectAt(*chart->TitleProps()->Root(), 5, 5.5F, 0);
+  ExpectAt(*chart->LegendProps()->Root(), 11, 0.5F, 0);
+  ExpectAt(*chart->DrillUpProps()->Root(), 10, 0.55F, 4);
+  ExpectAt(*chart->XAxisProps()->Root(), -0.25F, 0, 4.2F);
+  ExpectAt(*chart->YAxisProps()->Root(), -0.2F, 5.5F, 4.08F);
+  ExpectAt(*chart->ZAxisProps()->Root(), 10.2F, 0, -0.3F);
+  const auto expectLabels = [](const ContinuousAxis& axis, int count, float gap,
+                               LabelAlignment alignment, LabelingOrder order) {
     EXPECT_EQ(axis.Count(), count);
     EXPECT_EQ(axis.LabelTextGap(), gap);
     EXPECT_EQ(axis.Alignment(), alignment);
     EXPECT_EQ(axis.Order(), order);
-  }
-  EXPECT_NE(Written().find("[ \"0.00\", \"4.00\", \"8.00\" ]"), std::string::npos);
+  };
+  using enum LabelAlignment;
+  using enum LabelingOrder;
+  expectLabels(*chart->XAxisProps(), 5, 2.5F, RIGHT_ALIGN, MIN_TO_MAX);
+  expectLabels(*chart->YAxisProps(), 6, 1, RIGHT_ALIGN, MAX_TO_MIN);
+  expectLabels(*chart->ZAxisProps(), 3, 2, LEFT_ALIGN, MIN_TO_MAX);
 }
 
 TEST(PointCollection, HandsBackWhatItWasGiven) {
@@ -292,20 +256,15 @@ TEST(PointCollection, HandsBackWhatItWasGiven) {
   points->AddPoint(4, 5, 6, 0.5F, 0x00FF00, 1);
   points->AddPoint(-7, 8.5F, 9, 0.25F, 0x123456, 0.75F);
   points->RemovePoint(2);
-  EXPECT_EQ(points->Count(), 2);
   using Row = host::Value::Numbers;
   EXPECT_EQ(points->Call("get1point", {2}), host::Value(Row{-7, 8.5, 9, 0.25, 0x123456, 0.75}));
   EXPECT_EQ(points->Call("Get1Point", {1}), host::Value(Row{1, 2, 3, 0, 0x0000FF, 0}));
   EXPECT_EQ(ErrorOf([&] {
-              points->Call("Get1Point", {1, 0});
+              (points->Call("Get1Point", {1, 0}));
             }).number,
             ErrorNumber::WrongArgumentCount);
-  float x, y, z, radius, transparency;
-  std::int32_t color;
-  for (const auto index : {std::int16_t{0}, std::int16_t{3}}) {
-    EXPECT_EQ(
-        ErrorOf([&] { points->Get1Point(index, x, y, z, radius, color, transparency); }).number,
-        ErrorNumber::ListIndex);
+  for (const std::int16_t index : {std::int16_t{0}, std::int16_t{3}}) {
+    EXPECT_EQ(ErrorOf([&] { points->Call("Get1Point", {index}); }).number, ErrorNumber::ListIndex);
     EXPECT_EQ(ErrorOf([&] { points->RemovePoint(index); }).number, ErrorNumber::ListIndex);
   }
   EXPECT_EQ(points->Count(), 2);
@@ -315,7 +274,6 @@ TEST(PointCollection, HandsBackWhatItWasGiven) {
 
 TEST(PointCollection, RejectsBadPointsWhole) {
   constexpr float kInfinity = std::numeric_limits<float>::infinity();
-  constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
   const auto badRadius = ComponentError("Invalid radius, must be greater than or equal to 0");
   const auto badTransparency = ComponentError("Invalid transparency, must be in the range [0..1]");
   const struct {
@@ -353,11 +311,6 @@ TEST_F(Scatter, HoldsAsManyPointsAsItCanCount) {
   for (int i = 0; i < 32767; ++i) points->AddPoint(static_cast<float>(i), 0, 0, 0.1F, i, 0);
   EXPECT_EQ(ErrorOf([&] { points->AddPoint(1, 1, 1, 1, 1, 1); }).number, ErrorNumber::Overflow);
   EXPECT_EQ(points->Count(), 32767);
-  float x, y, z, radius, transparency;
-  std::int32_t color;
-  points->Get1Point(32767, x, y, z, radius, color, transparency);
-  EXPECT_EQ(x, 32766);
-  EXPECT_EQ(color, 32766);
   EXPECT_NE(Written().find(", 32766 0 0 ]"), std::string::npos);
 }
 
@@ -366,18 +319,16 @@ TEST_F(Scatter, HasALegendWithoutCheckBoxes) {
   const auto legend = chart->LegendProps();
   legend->AddLegendEntry(0x0000FF, "first");
   legend->AddLegendEntry(0x00FF00, "second");
-  legend->IsBillboarded(true);
   EXPECT_EQ(ErrorOf([&] { legend->AddLegendEntry(-1, "none"); }).number, ErrorNumber::OutOfRange);
-  EXPECT_EQ(ErrorOf([&] { legend->TextHeight(0); }),
-            ComponentError("Invalid legend text height, must be greater than 0"));
-  std::string text = Written();
+  ExpectErrors(
+      {{[&] { legend->TextHeight(0); }, "Invalid legend text height, must be greater than 0"}});
+  const std::string text = Written();
   EXPECT_NE(text.find("entryTexts [ \"second\", \"first\" ]"), std::string::npos);
   EXPECT_LT(text.find("diffuseColor 0 1 0"), text.find("diffuseColor 1 0 0"));
   EXPECT_EQ(text.find("qm4_CheckBox"), std::string::npos);
   legend->ClearLegend();
-  text = Written();
-  EXPECT_EQ(text.find("entryTexts ["), std::string::npos);
-  EXPECT_NE(text.find("qm4_Legend {"), std::string::npos);
+  EXPECT_EQ(Written().find("entryTexts ["), std::string::npos);
+  EXPECT_NE(Written().find("qm4_Legend {"), std::string::npos);
 }
 
 TEST(Slider, LaysOutLabelsAndDirection) {
@@ -404,7 +355,6 @@ TEST(Slider, LaysOutLabelsAndDirection) {
   const auto shape = std::dynamic_pointer_cast<scene::Shape>(part(2)->children.Item(1));
   const auto text = std::dynamic_pointer_cast<scene::Text>(shape->geometry.Value());
   const auto font = std::dynamic_pointer_cast<scene::FontStyle>(text->fontStyle.Value());
-  EXPECT_EQ(font->family.Items(), std::vector<std::string>{"SANS"});
   for (const auto& test : cases) {
     SCOPED_TRACE(test.labels);
     slider.Labels().Clear();
@@ -417,19 +367,17 @@ TEST(Slider, LaysOutLabelsAndDirection) {
     slider.AlignSlider();
     EXPECT_EQ(font->spacing.Value(), test.spacing);
     const bool isRight = test.alignment == RIGHT_ALIGN_TEXT;
-    EXPECT_EQ(font->justify.Items(), (std::vector<std::string>{isRight ? "END" : "BEGIN", "END"}));
+    EXPECT_EQ(font->justify.Items(), (Texts{isRight ? "END" : "BEGIN", "END"}));
     EXPECT_FLOAT_EQ(part(2)->translation.X(), test.x);
     EXPECT_EQ(part(1)->translation.Y(), test.y);
     const bool isTurned = test.orientation == ZERO_AT_TOP;
     EXPECT_EQ(part(1)->rotation.X(), isTurned ? 1 : 0);
     EXPECT_EQ(part(1)->rotation.Angle(), isTurned ? 3.14159F : 0);
   }
-  const std::pair<const char*, std::function<void()>> rejected[] = {
-      {"Invalid label height, must be greater than 0", [&] { slider.LabelHeight(0); }},
-      {"Invalid slider length, must be greater than 0", [&] { slider.SliderLength(-1); }},
-      {"Invalid slider radius, must be greater than 0", [&] { slider.SliderRadius(0); }},
-  };
-  for (const auto& [message, let] : rejected) EXPECT_EQ(ErrorOf(let), ComponentError(message));
+  ExpectErrors(
+      {{[&] { slider.LabelHeight(0); }, "Invalid label height, must be greater than 0"},
+       {[&] { slider.SliderLength(-1); }, "Invalid slider length, must be greater than 0"},
+       {[&] { slider.SliderRadius(0); }, "Invalid slider radius, must be greater than 0"}});
   EXPECT_EQ(slider.LabelHeight(), 2);
   EXPECT_EQ(slider.SliderLength(), 4);
   EXPECT_EQ(slider.SliderRadius(), 0.2F);

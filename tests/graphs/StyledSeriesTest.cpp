@@ -10,8 +10,7 @@
 namespace orvane {
 namespace {
 
-using tests::ComponentError;
-using tests::ErrorOf;
+using tests::ExpectErrors;
 
 template <class S>
 class StyledSeriesOf : public testing::Test {
@@ -58,12 +57,9 @@ TYPED_TEST(StyledSeriesOf, KeepsHeightsAndSizesThroughAStyleChange) {
 TYPED_TEST(StyledSeriesOf, RejectsSizesThatAreNotAboveZero) {
   auto& series = *this->series;
   series.Depth(0.5F);
-  EXPECT_EQ(ErrorOf([&] { series.BevelRadius(0); }),
-            ComponentError("Invalid bevel radius, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { series.Depth(-1); }),
-            ComponentError("Invalid series depth, must be greater than 0"));
-  EXPECT_EQ(ErrorOf([&] { series.Depth(1e-45F); }),
-            ComponentError("Invalid radius, must be greater than 0"));
+  ExpectErrors({{[&] { series.BevelRadius(0); }, "Invalid bevel radius, must be greater than 0"},
+                {[&] { series.Depth(-1); }, "Invalid series depth, must be greater than 0"},
+                {[&] { series.Depth(1e-45F); }, "Invalid radius, must be greater than 0"}});
   EXPECT_EQ(series.Depth(), 0.5F);
   EXPECT_FLOAT_EQ(series.PopupProps()->Depth(), 0.525F);
 }
@@ -71,13 +67,12 @@ TYPED_TEST(StyledSeriesOf, RejectsSizesThatAreNotAboveZero) {
 TEST(StyledSeries, HaveASizeOfTheirOwn) {
   ColumnSeriesInfo column;
   column.Width(0.25F);
-  EXPECT_EQ(ErrorOf([&] { column.Width(0); }),
-            ComponentError("Invalid series width, must be greater than 0"));
-  EXPECT_EQ(column.Width(), 0.25F);
   RibbonSeriesInfo ribbon;
   ribbon.Thickness(0.25F);
-  EXPECT_EQ(ErrorOf([&] { ribbon.Thickness(0); }),
-            ComponentError("Invalid series thickness, must be greater than 0"));
+  ExpectErrors(
+      {{[&] { column.Width(0); }, "Invalid series width, must be greater than 0"},
+       {[&] { ribbon.Thickness(0); }, "Invalid series thickness, must be greater than 0"}});
+  EXPECT_EQ(column.Width(), 0.25F);
   EXPECT_EQ(ribbon.Thickness(), 0.25F);
   EXPECT_EQ(ribbon.Type().Find("Width"), -1);
 }

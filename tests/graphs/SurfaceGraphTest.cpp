@@ -1,22 +1,20 @@
 /// The surface chart: lattices and their limits, where surfaces stand, names and ROUTEs.
 
-#include "support/Raises.h"
-#include "support/Routes.h"
+#include "support/Charts.h"
 
 #include "orvane/graphs/surface/SurfaceGraph.h"
 
 #include <limits>
-
-#include <gtest/gtest.h>
 
 namespace orvane {
 namespace {
 
 using tests::ComponentError;
 using tests::ErrorOf;
-using tests::RoutesOf;
+using tests::ExpectErrors;
+using tests::Texts;
 
-std::vector<std::string> TextsOf(const SurfaceInfo& surface) {
+Texts TextsOf(const SurfaceInfo& surface) {
   return surface.PopupProps()->PopupSurfaceNode()->popupText.Items();
 }
 
@@ -35,25 +33,16 @@ std::vector<float> HeightsOf(const SurfaceInfo& surface) {
   return surface.Heights();
 }
 
-TEST(SurfaceInfo, BeginsFlatWithTwoPointsEachWay) {
-  const SurfaceInfo surface;
-  EXPECT_EQ(surface.XCount(), 2);
-  EXPECT_EQ(surface.ZCount(), 2);
-  EXPECT_EQ(surface.XSpacing(), 1);
-  EXPECT_EQ(HeightsOf(surface), std::vector<float>(4));
-  EXPECT_EQ(TextsOf(surface), std::vector<std::string>(4));
-  EXPECT_EQ(surface.Root()->children.Item(1), surface.ContentToggle());
-  EXPECT_EQ(surface.Root()->children.Item(2), surface.PopupProps()->RootNode());
-}
-
 TEST(SurfaceInfo, SetsOnePointInAllLattices) {
   SurfaceInfo surface;
+  EXPECT_EQ(HeightsOf(surface), std::vector<float>(4));
+  EXPECT_EQ(TextsOf(surface), Texts(4));
   surface.XCount(5);
   surface.ZCount(3);
   surface.Set1HeightPoint(2, 3, 1.5F, "top");
   std::vector<float> heights(15);
   heights[11] = 1.5F;
-  std::vector<std::string> texts(15);
+  Texts texts(15);
   texts[11] = "top";
   EXPECT_EQ(HeightsOf(surface), heights);
   EXPECT_EQ(TextsOf(surface), texts);
@@ -61,7 +50,7 @@ TEST(SurfaceInfo, SetsOnePointInAllLattices) {
   EXPECT_EQ(HeightsOf(surface), heights);
   surface.XCount(5);
   EXPECT_EQ(HeightsOf(surface), std::vector<float>(15)) << "also for the count there is";
-  EXPECT_EQ(TextsOf(surface), std::vector<std::string>(15));
+  EXPECT_EQ(TextsOf(surface), Texts(15));
 }
 
 TEST(SurfaceInfo, RejectsAndChangesNothing) {
@@ -71,23 +60,17 @@ TEST(SurfaceInfo, RejectsAndChangesNothing) {
   surface.Set1HeightPoint(1, 1, 2, "kept");
   const auto popups = surface.PopupProps();
   constexpr float kInfinite = std::numeric_limits<float>::infinity();
-  const struct {
-    std::function<void()> call;
-    std::string message;
-  } cases[] = {
-      {[&] { surface.Set1HeightPoint(0, 1, 9, "x"); },
-       "Invalid X axis surface point, must be in the range [1..5"},
-      {[&] { surface.Set1HeightPoint(6, 9, 9, "x"); },
-       "Invalid X axis surface point, must be in the range [1..5"},
-      {[&] { surface.Set1HeightPoint(5, 4, 9, "x"); },
-       "Invalid Z axis surface point, must be in the range [1..3"},
-      {[&] { surface.XCount(1); }, "Invalid X axis surface point count, must be greater than 1"},
-      {[&] { surface.ZCount(-5); }, "Invalid Z axis surface point count, must be greater than 1"},
-      {[&] { surface.XSpacing(0); }, "Invalid X axis surface spacing, must be greater than 0"},
-      {[&] { surface.ZSpacing(-1); }, "Invalid Z axis surface spacing, must be greater than 0"},
-      {[&] { popups->TextHeight(0); }, "Invalid popup height, must be greater than 0"},
-  };
-  for (const auto& test : cases) EXPECT_EQ(ErrorOf(test.call), ComponentError(test.message));
+  const std::string x = "Invalid X axis surface point, must be in the range [1..5";
+  const std::string z = "Invalid Z axis surface point, must be in the range [1..3";
+  ExpectErrors(
+      {{[&] { surface.Set1HeightPoint(0, 1, 9, "x"); }, x},
+       {[&] { surface.Set1HeightPoint(6, 9, 9, "x"); }, x},
+       {[&] { surface.Set1HeightPoint(5, 4, 9, "x"); }, z},
+       {[&] { surface.XCount(1); }, "Invalid X axis surface point count, must be greater than 1"},
+       {[&] { surface.ZCount(-5); }, "Invalid Z axis surface point count, must be greater than 1"},
+       {[&] { surface.XSpacing(0); }, "Invalid X axis surface spacing, must be greater than 0"},
+       {[&] { surface.ZSpacing(-1); }, "Invalid Z axis surface spacing, must be greater than 0"},
+       {[&] { popups->TextHeight(0); }, "Invalid popup height, must be greater than 0"}});
   EXPECT_EQ(ErrorOf([&] { surface.Set1HeightPoint(1, 1, kInfinite, "x"); }).number,
             host::ErrorNumber::NotFinite);
   std::vector<float> heights(15);
@@ -116,27 +99,17 @@ TEST(SurfaceInfo, TakesLargeLatticesAndRefusesThoseBeyondMemory) {
 
 TEST(SurfacePopups, AreInTheSceneOnceWhileInUse) {
   SurfacePopupInfo popups;
-  EXPECT_EQ(popups.Root()->children.Count(), 0);
-  popups.UsePopups(true);
-  popups.UsePopups(true);
-  EXPECT_EQ(popups.Root()->children.Count(), 1);
-  EXPECT_EQ(popups.Root()->children.Item(1), popups.PopupSurfaceNode());
-  popups.UsePopups(false);
-  EXPECT_EQ(popups.Root()->children.Count(), 0);
+  for (const bool use : {false, true, true, false}) {
+    popups.UsePopups(use);
+    EXPECT_EQ(popups.Root()->children.Count(), use ? 1 : 0);
+  }
 }
 
-class Surfaces : public testing::Test {
- protected:
-  std::string Written() { return chart->ExportToString(true, true); }
-
-  std::shared_ptr<SurfaceGraph> chart = std::make_shared<SurfaceGraph>();
-};
+using Surfaces = tests::ChartTest<SurfaceGraph>;
 
 TEST_F(Surfaces, FollowTheirCountAndTheGrid) {
-  const auto error = [&](std::int16_t index) {
-    return ErrorOf([&] { (void)chart->GetSurface(index); });
-  };
-  EXPECT_EQ(error(1), ComponentError("Invalid surface index, surface count = 0"));
+  EXPECT_EQ(ErrorOf([&] { (void)chart->GetSurface(1); }),
+            ComponentError("Invalid surface index, surface count = 0"));
   chart->GridProps()->XAxisCellCount(5);
   chart->SurfaceCount(3);
   const auto first = chart->GetSurface(1);
@@ -145,10 +118,9 @@ TEST_F(Surfaces, FollowTheirCountAndTheGrid) {
   first->Set1HeightPoint(1, 1, 3, "x");
   chart->SurfaceCount(3);
   chart->SurfaceCount(2);
-  EXPECT_EQ(error(3), ComponentError("Invalid surface index, surface count = 2"));
-  EXPECT_EQ(error(0), ComponentError("Invalid surface index, surface count = 2"));
-  EXPECT_EQ(ErrorOf([&] { chart->SurfaceCount(-1); }),
-            ComponentError("Invalid index into the list"));
+  ExpectErrors({{[&] { (void)chart->GetSurface(3); }, "Invalid surface index, surface count = 2"},
+                {[&] { (void)chart->GetSurface(0); }, "Invalid surface index, surface count = 2"},
+                {[&] { chart->SurfaceCount(-1); }, "Invalid index into the list"}});
   EXPECT_EQ(chart->SurfaceCount(), 2);
   EXPECT_EQ(chart->GetSurface(1), first);
   EXPECT_EQ(first->Heights()[0], 3);
@@ -181,17 +153,14 @@ TEST_F(Surfaces, StandOverTheCentresOfCells) {
     const auto surface = chart->GetSurface(i);
     EXPECT_EQ(surface->XSpacing(), 2.5F);
     EXPECT_EQ(surface->ZSpacing(), 1);
-    EXPECT_EQ(surface->Root()->translation.X(), 1.25F);
-    EXPECT_EQ(surface->Root()->translation.Y(), 0.01F);
-    EXPECT_EQ(surface->Root()->translation.Z(), 0.5F);
+    tests::ExpectAt(*surface->Root(), 1.25F, 0.01F, 0.5F);
     EXPECT_FLOAT_EQ(surface->PopupProps()->PopupSurfaceNode()->popupDepth.Value(), 0.15F);
   }
   // The Group of the surfaces is the last child, and holds each once.
   const auto group = std::dynamic_pointer_cast<scene::Group>(
       chart->RootNode()->children.Item(chart->RootNode()->children.Count()));
-  EXPECT_EQ(group->children.Items(),
-            (std::vector<std::shared_ptr<scene::Node>>{chart->GetSurface(1)->RootNode(),
-                                                       chart->GetSurface(2)->RootNode()}));
+  EXPECT_EQ(group->children.Items(), (scene::MFNode::List{chart->GetSurface(1)->RootNode(),
+                                                          chart->GetSurface(2)->RootNode()}));
 }
 
 TEST_F(Surfaces, RouteTheBoxOfTheirEntry) {
@@ -199,23 +168,19 @@ TEST_F(Surfaces, RouteTheBoxOfTheirEntry) {
   chart->LegendProps()->UseSeriesToggle(true);
   const char* const texts[] = {"", "Land", "  ", "Sea"};
   for (std::int16_t i = 1; i <= 4; ++i) chart->GetSurface(i)->LegendText(texts[i - 1]);
-  const std::vector<std::string> routes = {
-      "CHECK_BOX_1.value_changed TO SURFACE_2.set_contentsExist",
-      "CHECK_BOX_2.value_changed TO SURFACE_4.set_contentsExist"};
-  EXPECT_EQ(RoutesOf(Written()), routes);
-  EXPECT_EQ(RoutesOf(Written()), routes) << "once each, however often the chart is written";
+  const Texts routes = {"CHECK_BOX_1.value_changed TO SURFACE_2.set_contentsExist",
+                        "CHECK_BOX_2.value_changed TO SURFACE_4.set_contentsExist"};
+  EXPECT_EQ(Routes(), routes);
+  EXPECT_EQ(Routes(), routes) << "once each, however often the chart is written";
   EXPECT_EQ(Written().find("SURFACE_1"), std::string::npos);
   chart->GetSurface(2)->LegendText("");
-  EXPECT_EQ(RoutesOf(Written()),
-            std::vector<std::string>{"CHECK_BOX_1.value_changed TO SURFACE_4.set_contentsExist"});
+  EXPECT_EQ(Routes(), Texts{"CHECK_BOX_1.value_changed TO SURFACE_4.set_contentsExist"});
   EXPECT_EQ(Written().find("SURFACE_2"), std::string::npos) << "an earlier name is taken off";
 }
 
 TEST_F(Surfaces, NavigateAsOtherChartsDo) {
   chart->InteractivityProps()->UseXAxisDrillDown(true);
-  EXPECT_EQ(RoutesOf(Written()),
-            std::vector<std::string>{
-                "X_AXIS_DRILL_DOWN.mouseClickedIndex TO X_AXIS_ROUTER.set_linkIndex"});
+  EXPECT_EQ(Routes(), Texts{"X_AXIS_DRILL_DOWN.mouseClickedIndex TO X_AXIS_ROUTER.set_linkIndex"});
 }
 
 }  // namespace
