@@ -36,30 +36,11 @@ class Result {
   orvane_value m_value;
 };
 
-orvane_value Int(std::int32_t number) {
-  orvane_value value{};
-  value.type = ORVANE_INT32;
-  value.as.int32 = number;
-  return value;
-}
-orvane_value Number(double number) {
-  orvane_value value{};
-  value.type = ORVANE_DOUBLE;
-  value.as.number = number;
-  return value;
-}
-orvane_value Boolean(bool truth) {
-  orvane_value value{};
-  value.type = ORVANE_BOOLEAN;
-  value.as.boolean = truth ? 1 : 0;
-  return value;
-}
+orvane_value Int(std::int32_t number) { return {ORVANE_INT32, 0, {.int32 = number}}; }
+orvane_value Number(double number) { return {ORVANE_DOUBLE, 0, {.number = number}}; }
+orvane_value Boolean(bool truth) { return {ORVANE_BOOLEAN, 0, {.boolean = truth ? 1 : 0}}; }
 orvane_value Text(const std::string& text) {
-  orvane_value value{};
-  value.type = ORVANE_STRING;
-  value.count = text.size();
-  value.as.string = text.c_str();
-  return value;
+  return {ORVANE_STRING, text.size(), {.string = text.c_str()}};
 }
 
 class Server : public testing::Test {
@@ -156,10 +137,9 @@ TEST_F(Server, IsNotUnloadedWhileAnythingIsHeld) {
   EXPECT_EQ(m_canUnload(), ORVANE_OK);
   {
     const Result control = Control();
-    EXPECT_EQ(m_canUnload(), ORVANE_FALSE) << "an object";
     control.Object()->calls->AddRef(control.Object());
     EXPECT_EQ(control.Object()->calls->Release(control.Object()), 1U);
-    EXPECT_EQ(m_canUnload(), ORVANE_FALSE);
+    EXPECT_EQ(m_canUnload(), ORVANE_FALSE) << "an object";
   }
   EXPECT_EQ(m_canUnload(), ORVANE_OK);
   {
@@ -172,18 +152,11 @@ TEST_F(Server, IsNotUnloadedWhileAnythingIsHeld) {
   EXPECT_EQ(m_canUnload(), ORVANE_OK);
 }
 
-TEST_F(Server, HandsOutTheSameObjectAtTheSameAddress) {
-  const Result control = Control();
-  const Result first = Call(control.Object(), "CreateFactory");
-  const Result second = Call(control.Object(), "CreateFactory");
-  EXPECT_EQ(first.Object(), second.Object());
-  EXPECT_NE(Call(control.Object(), "CreateScaler").Object(),
-            Call(control.Object(), "CreateScaler").Object());
-  EXPECT_EQ(IdOf(first.Object(), "createareagraph"), IdOf(first.Object(), "CreateAreaGraph"));
-}
-
 TEST_F(Server, PassesValuesOfEveryType) {
-  const Result chart = Chart();
+  const Result control = Control();
+  const Result factory = Call(control.Object(), "CreateFactory");
+  EXPECT_EQ(Call(control.Object(), "CreateFactory").Object(), factory.Object());
+  const Result chart = Call(factory.Object(), "CreateAreaGraph");
   const Result title = Get(chart.Object(), "TitleProps");
   const std::string texts[] = {"", "a\"b", std::string(100000, 'x')};
   for (const auto& text : texts) {
@@ -200,14 +173,6 @@ TEST_F(Server, PassesValuesOfEveryType) {
   EXPECT_EQ(Get(title.Object(), "TextHeight")->as.single, 0.5F);
 }
 
-struct Refused {
-  const char* member;
-  std::vector<orvane_value> arguments;
-  std::string description;
-  int32_t access;
-  orvane_status status;
-};
-
 TEST_F(Server, TellsWhatIsWrongAndChangesNothing) {
   const Result chart = Chart();
   const Result grid = Get(chart.Object(), "GridProps");
@@ -216,7 +181,13 @@ TEST_F(Server, TellsWhatIsWrongAndChangesNothing) {
   strange.type = 99;
   orvane_value noText = Text("");
   noText.as.string = nullptr;
-  const Refused refused[] = {
+  const struct {
+    const char* member;
+    std::vector<orvane_value> arguments;
+    std::string description;
+    int32_t access;
+    orvane_status status;
+  } refused[] = {
       {"Width", {Int(0)}, "The graph must be wider than 0", ORVANE_LET, 0x80040000},
       {"Width", {}, "GridInfo.Width takes 1 argument(s), got 0", ORVANE_LET, 0x8002000E},
       {"Width", {Int(1)}, "GridInfo.Width takes 0 argument(s), got 1", ORVANE_GET, 0x8002000E},
