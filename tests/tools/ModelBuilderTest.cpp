@@ -1,15 +1,16 @@
 /// Models: the notation reaches every kind of member, and every complaint names its place.
 #include "ModelBuilder.h"
+#include "support/Complaints.h"
+#include "support/ScratchFolder.h"
 
 #include "orvane/graphs/grid/AreaGraph.h"
-
-#include <fstream>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 namespace orvane::tool {
 namespace {
+
+using tests::ComplaintOf;
 
 /// The chart that "{"chart": "AreaGraph", `members`}" makes.
 std::shared_ptr<AreaGraph> Build(const std::string& members) {
@@ -111,12 +112,7 @@ constexpr BadModel kBadMembers[] = {
 
 TEST(Model, NamesThePlaceOfWhatIsWrong) {
   for (const auto& [model, message] : kBadMembers) {
-    try {
-      Build(model);
-      ADD_FAILURE() << model << " was built";
-    } catch (const FileError& error) {
-      EXPECT_STREQ(error.what(), message);
-    }
+    EXPECT_EQ(ComplaintOf([&] { Build(model); }), message);
   }
 }
 
@@ -134,28 +130,17 @@ TEST(Model, IsAJsonObjectThatNamesItsChart) {
       {"{\n \"chart\": \"Chart\"}", "m.json:2:11: chart: there is no chart class \"Chart\""},
   };
   for (const auto& [model, message] : models) {
-    try {
-      BuildModel(Source("m.json", model));
-      ADD_FAILURE() << model << " was built";
-    } catch (const FileError& error) {
-      EXPECT_STREQ(error.what(), message);
-    }
+    EXPECT_EQ(ComplaintOf([&] { BuildModel(Source("m.json", model)); }), message);
   }
   const std::string deep = std::string(100000, '[');
   EXPECT_THROW(BuildModel(Source("m.json", deep)), FileError);
 }
 
-std::string TextOf(const std::string& file) {
-  std::ostringstream text;
-  text << std::ifstream(ORVANE_SOURCE_DIR "/" + file).rdbuf();
-  return text.str();
-}
-
 TEST(Model, OfTheDocumentationIsTheExampleAndBuilds) {
-  const std::string example = TextOf("examples/rain.json");
+  const std::string example = tests::FileText(ORVANE_SOURCE_DIR "/examples/rain.json");
+  const std::string page = tests::FileText(ORVANE_SOURCE_DIR "/docs/command-line.md");
   ASSERT_FALSE(example.empty());
-  EXPECT_NE(TextOf("docs/command-line.md").find("```json\n" + example + "```\n"),
-            std::string::npos);
+  EXPECT_NE(page.find("```json\n" + example + "```\n"), std::string::npos);
   const std::string world = BuildWorld(Source("rain.json", example));
   for (const char* part : {"\"Rain in Seattle, spring\"", "[ 4.8, 2.122, 1.6 ]", "\"250 mm\"",
                            "ROUTE CHECK_BOX_2.value_changed TO SERIES_TOGGLE_2.set_contentsExist",

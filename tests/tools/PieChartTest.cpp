@@ -1,6 +1,7 @@
 /// Pies from tables: shares that close the ring, heights, labels that keep clear of each other.
 #include "PieChart.h"
 #include "Texts.h"
+#include "support/Complaints.h"
 
 #include <cmath>
 #include <numbers>
@@ -93,12 +94,7 @@ TEST(PieChart, RefusesWhatMakesNoPie) {
       {"a,b\nx,one\n", "t.csv:2:3: \"one\" is not a number"},
   };
   for (const auto& [text, message] : cases) {
-    try {
-      SharesOf(text);
-      ADD_FAILURE() << "read: " << text;
-    } catch (const FileError& error) {
-      EXPECT_STREQ(error.what(), message);
-    }
+    EXPECT_EQ(tests::ComplaintOf([&] { SharesOf(text); }), message);
   }
 }
 

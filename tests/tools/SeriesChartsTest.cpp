@@ -12,12 +12,6 @@ Table TableOf(const std::string& text) {
   return ReadTable(Source("t.csv", text), MissingCell::Error);
 }
 
-std::vector<float> Scaled(const std::vector<float>& values, float factor) {
-  std::vector<float> scaled;
-  for (const float value : values) scaled.push_back(value * factor);
-  return scaled;
-}
-
 void ExpectNear(const std::vector<float>& actual, const std::vector<float>& expected) {
   ASSERT_EQ(actual.size(), expected.size());
   for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], 1e-5);
@@ -36,8 +30,8 @@ TEST(AreaChart, PutsValuesLabelsAndPopupsInTheirPlaces) {
   EXPECT_EQ(grid->XAxisCellCount(), 3);
   EXPECT_EQ(grid->YAxisCellCount(), 5);
   EXPECT_EQ(grid->ZAxisCellCount(), 2);
-  ExpectNear(chart->GetSeries(1)->Height().Items(), Scaled({90, 80.5, 0}, 0.05F));
-  ExpectNear(chart->GetSeries(2)->Height().Items(), Scaled({10, 40, 60}, 0.05F));
+  ExpectNear(chart->GetSeries(1)->Height().Items(), {4.5F, 4.025F, 0});
+  ExpectNear(chart->GetSeries(2)->Height().Items(), {0.5F, 2, 3});
   EXPECT_EQ(chart->GetSeries(2)->Root()->translation.Y(), 0);
   EXPECT_EQ(chart->GetSeries(2)->LegendText(), "Sun, wind");
   EXPECT_EQ(chart->GetSeries(1)->PopupProps()->PopupText().Item(2), "2002\nOil: 80.50");
@@ -53,30 +47,23 @@ TEST(AreaChart, PutsValuesLabelsAndPopupsInTheirPlaces) {
   EXPECT_EQ(chart->Viewpoints()->GetViewpoint(1)->description.Value(), "Corner");
 }
 
-TEST(AreaChart, StandsOnThePlaneOfZero) {
+TEST(AreaChart, StandsOnThePlaneOfZeroAndLabelsLargeValuesInUnits) {
   ChartOptions options;
   options.size = GridSize{8, 6, 4};
+  options.useToggles = false;
+  options.usePopups = false;
   const auto chart = MakeAreaChart(TableOf("m,a\nx,-4\ny,8\n"), options);
   EXPECT_EQ(chart->YAxisProps()->Min(), -4);
   EXPECT_EQ(chart->YAxisProps()->Max(), 8);
   EXPECT_NEAR(chart->GetSeries(1)->Root()->translation.Y(), 2, 1e-6);
   ExpectNear(chart->GetSeries(1)->Height().Items(), {-2, 4});
-}
-
-TEST(AreaChart, LabelsLargeValuesInUnits) {
-  const auto chart = MakeAreaChart(TableOf("m,a\nx,2000000001\ny,3e9\n"), {});
-  EXPECT_EQ(chart->YAxisProps()->Max(), 3);
-  EXPECT_EQ(chart->YAxisProps()->Header(), "× 1,000,000,000");
-  EXPECT_EQ(chart->GetSeries(1)->PopupProps()->PopupText().Item(1), "x\na: 2000000001");
-}
-
-TEST(AreaChart, LeavesOutTogglesAndPopupsOnDemand) {
-  ChartOptions options;
-  options.useToggles = false;
-  options.usePopups = false;
-  const auto chart = MakeAreaChart(TableOf("m,a\nx,1\n"), options);
   EXPECT_FALSE(chart->LegendProps()->UseSeriesToggle());
   EXPECT_FALSE(chart->GetSeries(1)->PopupProps()->UsePopups());
+
+  const auto large = MakeAreaChart(TableOf("m,a\nx,2000000001\ny,3e9\n"), {});
+  EXPECT_EQ(large->YAxisProps()->Max(), 3);
+  EXPECT_EQ(large->YAxisProps()->Header(), "× 1,000,000,000");
+  EXPECT_EQ(large->GetSeries(1)->PopupProps()->PopupText().Item(1), "x\na: 2000000001");
 }
 
 TEST(AreaChart, IsReadableOnAnyBackground) {
@@ -92,7 +79,7 @@ TEST(AreaChart, IsReadableOnAnyBackground) {
   }
 }
 
-TEST(ColumnChart, StandsInRowsOrSideBySide) {
+TEST(ColumnChart, StandsInRowsOrSideBySideAndRibbonsAlike) {
   const Table table = TableOf("m,a,b\nx,1,2\ny,3,4\n");
   ChartOptions options;
   options.size = GridSize{4, 5, 3};
@@ -114,15 +101,10 @@ TEST(ColumnChart, StandsInRowsOrSideBySide) {
   EXPECT_FLOAT_EQ(grouped->GetSeries(1, 1)->Width(), 0.8F);
   EXPECT_FLOAT_EQ(grouped->GetSeries(1, 1)->Root()->translation.X(), 0.6F);
   EXPECT_FLOAT_EQ(grouped->GetSeries(1, 2)->Root()->translation.X(), 1.4F);
-}
-
-TEST(RibbonChart, HasTheHeightsOfTheTable) {
-  ChartOptions options;
-  options.size = GridSize{4, 5, 3};
-  options.isRounded = true;
-  const auto chart = MakeRibbonChart(TableOf("m,a,b\nx,1,2\ny,3,4\n"), options);
-  ExpectNear(chart->GetSeries(1)->Height().Items(), {1.25, 3.75});
-  EXPECT_EQ(chart->GetSeries(2)->Style(), RibbonStyle::ROUNDED_RIBBON);
+  options.isGrouped = false;
+  const auto ribbons = MakeRibbonChart(table, options);
+  ExpectNear(ribbons->GetSeries(1)->Height().Items(), {1.25, 3.75});
+  EXPECT_EQ(ribbons->GetSeries(2)->Style(), RibbonStyle::ROUNDED_RIBBON);
 }
 
 /// A table of `categories` x `series` cells.

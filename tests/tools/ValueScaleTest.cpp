@@ -17,6 +17,16 @@ struct Range {
   const char* unit;
 };
 
+void Expect(const ValueScale& scale, const Range& range) {
+  SCOPED_TRACE(range.highest);
+  EXPECT_EQ(scale.low, range.low);
+  EXPECT_EQ(scale.high, range.high);
+  EXPECT_EQ(scale.cells, range.cells);
+  EXPECT_EQ(scale.LabelPicture(), range.picture);
+  EXPECT_EQ(scale.UnitText(), range.unit);
+  EXPECT_FALSE(std::signbit(scale.high) && scale.high == 0);
+}
+
 TEST(RoundScale, ReachesRoundNumbersAroundTheValuesAndZero) {
   const Range ranges[] = {
       {0, 0, 0, 1, 4, "#,##0.00", ""},
@@ -35,16 +45,7 @@ TEST(RoundScale, ReachesRoundNumbersAroundTheValuesAndZero) {
       {-1e308, 1e308, -100, 100, 4, "#,##0", "× 1e306"},
       {0, 5e-324, 0, 5, 5, "#,##0", "× 1e-324"},
   };
-  for (const Range& range : ranges) {
-    const ValueScale scale = RoundScale(range.lowest, range.highest, 6);
-    SCOPED_TRACE(range.highest);
-    EXPECT_EQ(scale.low, range.low);
-    EXPECT_EQ(scale.high, range.high);
-    EXPECT_EQ(scale.cells, range.cells);
-    EXPECT_EQ(scale.LabelPicture(), range.picture);
-    EXPECT_EQ(scale.UnitText(), range.unit);
-    EXPECT_FALSE(std::signbit(scale.high) && scale.high == 0);
-  }
+  for (const Range& range : ranges) Expect(RoundScale(range.lowest, range.highest, 6), range);
 }
 
 TEST(TightScale, LeavesZeroOutUnlessValuesLieTooClose) {
@@ -59,15 +60,7 @@ TEST(TightScale, LeavesZeroOutUnlessValuesLieTooClose) {
       {1000, 1000.05, 0, 1200, 6, "#,##0", ""},
       {-1e308, 1e308, -100, 100, 4, "#,##0", "× 1e306"},
   };
-  for (const Range& range : ranges) {
-    const ValueScale scale = TightScale(range.lowest, range.highest, 7);
-    SCOPED_TRACE(range.highest);
-    EXPECT_EQ(scale.low, range.low);
-    EXPECT_EQ(scale.high, range.high);
-    EXPECT_EQ(scale.cells, range.cells);
-    EXPECT_EQ(scale.LabelPicture(), range.picture);
-    EXPECT_EQ(scale.UnitText(), range.unit);
-  }
+  for (const Range& range : ranges) Expect(TightScale(range.lowest, range.highest, 7), range);
 }
 
 TEST(RoundScale, HoldsForAnyRange) {
