@@ -7,8 +7,12 @@
 #include "orvane/host/AutomationError.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <exception>
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <pybind11/stl.h>
@@ -22,7 +26,6 @@ using host::EnumInfo;
 using host::Help;
 using host::Member;
 using host::Parameter;
-using host::Place;
 using host::TypeInfo;
 using host::Value;
 using host::ValueType;
@@ -74,7 +77,7 @@ void AddErrors(py::module_& module) {
   module.add_object("UnknownMember", unknownMember);
   py::register_exception_translator([](std::exception_ptr thrown) {
     try {
-      if (thrown) std::rethrow_exception(thrown);
+      if (thrown) std::rethrow_exception(std::move(thrown));
     } catch (const host::AutomationError& error) {
       const bool isUnknown = error.Number() == host::ErrorNumber::UnknownMember;
       const py::handle type = isUnknown ? unknownMember : automationError;

@@ -11,44 +11,54 @@
 
 namespace orvane::host {
 
+/// How many numbers an entry of a list has.
+template <class Entry>
+constexpr std::size_t kComponents = 3;
+template <>
+constexpr std::size_t kComponents<float> = 1;
+template <>
+constexpr std::size_t kComponents<scene::Vec2f> = 2;
+
+template <class Entry>
+using Components = std::array<float, kComponents<Entry>>;
+
 /// Entries of more than one component reach late-bound callers as a row of numbers, and so do all
 /// entries of a list, component after component.
-template <class Entry, std::size_t kComponents>
+template <class Entry>
 struct RowAutomation {
   static ValueType Type() { return {"Numbers"}; }
   static Value To(const Entry& entry) {
-    const auto components = std::bit_cast<std::array<float, kComponents>>(entry);
+    const auto components = std::bit_cast<Components<Entry>>(entry);
     return Value::Numbers(components.begin(), components.end());
   }
 };
 
 template <>
-struct Automation<scene::Vec2f> : RowAutomation<scene::Vec2f, 2> {};
+struct Automation<scene::Vec2f> : RowAutomation<scene::Vec2f> {};
 template <>
-struct Automation<scene::Vec3f> : RowAutomation<scene::Vec3f, 3> {};
+struct Automation<scene::Vec3f> : RowAutomation<scene::Vec3f> {};
 template <>
-struct Automation<scene::Color> : RowAutomation<scene::Color, 3> {};
+struct Automation<scene::Color> : RowAutomation<scene::Color> {};
 
 template <class Entry>
 struct Automation<std::vector<Entry>> {
-  static constexpr std::size_t kComponents = sizeof(Entry) / sizeof(float);
-  using Components = std::array<float, kComponents>;
+  static constexpr std::size_t kCount = kComponents<Entry>;
 
   static ValueType Type() { return {"Numbers"}; }
 
   static std::vector<Entry> From(const Value& value, const Place& place) {
     const auto* row = value.If<Value::Numbers>();
-    if (row == nullptr || row->size() % kComponents != 0) {
-      RaiseMismatch(value,
-                    kComponents == 1 ? "a row of numbers"
-                                     : "rows of " + std::to_string(kComponents) + " numbers",
-                    place);
+    if (row == nullptr || row->size() % kCount != 0) {
+      RaiseMismatch(
+          value,
+          kCount == 1 ? "a row of numbers" : "rows of " + std::to_string(kCount) + " numbers",
+          place);
     }
     std::vector<Entry> entries;
-    entries.reserve(row->size() / kComponents);
-    for (std::size_t i = 0; i < row->size(); i += kComponents) {
-      Components components;
-      for (std::size_t k = 0; k < kComponents; ++k) components[k] = ToSingle((*row)[i + k], place);
+    entries.reserve(row->size() / kCount);
+    for (std::size_t i = 0; i < row->size(); i += kCount) {
+      Components<Entry> components;
+      for (std::size_t k = 0; k < kCount; ++k) components[k] = ToSingle((*row)[i + k], place);
       entries.push_back(std::bit_cast<Entry>(components));
     }
     return entries;
@@ -56,9 +66,9 @@ struct Automation<std::vector<Entry>> {
 
   static Value To(const std::vector<Entry>& entries) {
     Value::Numbers row;
-    row.reserve(entries.size() * kComponents);
+    row.reserve(entries.size() * kCount);
     for (const Entry& entry : entries) {
-      const auto components = std::bit_cast<Components>(entry);
+      const auto components = std::bit_cast<Components<Entry>>(entry);
       row.insert(row.end(), components.begin(), components.end());
     }
     return row;
