@@ -23,6 +23,9 @@ const WORLD_ONLY = '.x_ite-private-notification { display: none !important; }';
 // pointer events in with its frames.
 const REST = 80;
 
+// How long a world may take to be ready, in ms: a busy machine draws slowly in software.
+const PATIENCE = 120000;
+
 export function launch() {
   return chromium.launch({ executablePath: '/usr/bin/chromium', args: FLAGS });
 }
@@ -31,6 +34,7 @@ export function launch() {
 // the page, or with the page's own choice. The world may still be loading; `view.ready()` waits.
 export async function openPage(browser, url, world = '', size = { width: 1024, height: 768 }) {
   const page = await browser.newPage({ viewport: size });
+  page.setDefaultTimeout(PATIENCE);
   const view = new View(page);
   const address = new URL('index.html', url);
   if (world) address.searchParams.set('world', world);
