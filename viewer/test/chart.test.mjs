@@ -40,6 +40,16 @@ const MODEL = {
   },
 };
 
+// Columns of width 1, seen from 20 and from 200 away.
+const ROW = `#VRML V2.0 utf8
+EXTERNPROTO qm4_OutlinedColumnSeries [
+  exposedField MFFloat heights
+] "VR_GRAPH.wrl#qm4_OutlinedColumnSeries"
+Viewpoint { position 3 2 20 description "Near" }
+Viewpoint { position 3 2 200 description "Far" }
+qm4_OutlinedColumnSeries { heights [ 1, 2, 3, 4 ] }
+`;
+
 // A place of the window where the charts show nothing but background.
 const ASIDE = { x: 30, y: 100 };
 
@@ -70,6 +80,7 @@ before(async () => {
     const target = fileURLToPath(new URL('worlds/two-views.wrl', import.meta.url));
     await copyFile(target, join(folder, `${name}.wrl`));
   }
+  await writeFile(join(folder, 'row.wrl'), ROW);
   server = await startViewer(folder);
   browser = await launch();
 });
@@ -164,6 +175,19 @@ describe('new heights', () => {
       assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
     });
   }
+});
+
+test('the edges of columns show from near only', async () => {
+  await open('row.wrl');
+  const edges = ['qm4_OutlinedColumnSeries', 'IndexedLineSet'];
+  const lines = async () => (await view.read(edges, 'coordIndex')).filter((i) => i < 0).length;
+  assert.equal(await lines(), 4 * 5);
+  const near = await view.screenshot();
+  await view.viewpoint('Far');
+  await assert.rejects(view.read(edges, 'coordIndex'), /no IndexedLineSet/);
+  await view.viewpoint('Near');
+  assert.equal(await lines(), 4 * 5);
+  assert.ok((await changed(near)) < SAME, 'the picture is not what it was');
 });
 
 describe('popups', () => {
