@@ -79,6 +79,41 @@ TEST_F(CommandLine, WritesAWorldAndItsProtoFiles) {
   EXPECT_NE(world.find("\"A, B\""), std::string::npos);
 }
 
+/// `text` without the declaration and the instances of the PROTO `type`.
+std::string Without(std::string text, const std::string& type) {
+  text.erase(text.find("#" + type), type.size() + 1);  // The end of the declaration's location.
+  for (auto at = text.find(type); at != std::string::npos; at = text.find(type, at)) {
+    auto end = text.find_first_of("[{", at);
+    int depth = 0;
+    do {
+      depth += text[end] == '{' || text[end] == '[';
+      depth -= text[end] == '}' || text[end] == ']';
+    } while (++end < text.size() && depth > 0);
+    text.erase(at, end - at);
+  }
+  return text;
+}
+
+TEST_F(CommandLine, ChartsAreasAndRibbonsAlikeButForTheShapesOfTheirSeries) {
+  const auto chart = [](const std::string& kind) {
+    return Orvane({"chart", kind, "t.csv", "-o", "-"}).out;
+  };
+  const auto build = [](const std::string& kind) {
+    Write("m.json", "{\"chart\": \"" + kind + R"(",
+        "GridProps": {"ZAxisCellCount": 2}, "LegendProps": {"UseSeriesToggle": true},
+        "series": [{"Height": [1, 3, 2], "PopupProps": {"UsePopups": true}}, {}]})");
+    return Orvane({"build", "m.json", "-o", "-"}).out;
+  };
+  const std::pair<std::string, std::string> pairs[] = {{chart("area"), chart("ribbon")},
+                                                       {build("AreaGraph"), build("RibbonGraph")}};
+  for (const auto& [areas, ribbons] : pairs) {
+    EXPECT_NE(areas.find("qm4_PopupStrip {"), std::string::npos);
+    EXPECT_NE(areas.find("ROUTE CHECK_BOX_2.value_changed"), std::string::npos);
+    EXPECT_EQ(Without(areas, "qm4_OutlinedAreaSeries"),
+              Without(ribbons, "qm4_OutlinedRibbonSeries"));
+  }
+}
+
 TEST_F(CommandLine, ChartsSurfaces) {
   Write("gap.csv", "Plan,a,b\nx,,2\ny,3,4\n");
   const std::pair<std::vector<std::string>, const char*> cases[] = {

@@ -23,6 +23,10 @@ std::shared_ptr<G> MakeChart(const Table& table, const ChartOptions& options, F 
   return chart;
 }
 
+/// Depth of areas and ribbons. It is one for both: their popups and places follow from it, and one
+/// table is to give one world but for the shapes.
+float BandDepth(const GridLayout& layout) { return static_cast<float>(0.6 * layout.CellDepth()); }
+
 int16_t Row(std::size_t series) { return static_cast<int16_t>(series + 1); }
 
 }  // namespace
@@ -31,7 +35,7 @@ std::shared_ptr<AreaGraph> MakeAreaChart(const Table& table, const ChartOptions&
   return MakeChart<AreaGraph>(table, options,
                               [](AreaGraph& chart, std::size_t i, const auto& layout) {
                                 auto series = chart.GetSeries(Row(i));
-                                series->Depth(static_cast<float>(0.5 * layout.CellDepth()));
+                                series->Depth(BandDepth(layout));
                                 return series;
                               });
 }
@@ -71,7 +75,7 @@ void ShapeColumns(ColumnSeriesInfo& series, std::size_t slots, const GridLayout&
 
 void ShapeRibbon(RibbonSeriesInfo& series, const GridLayout& layout, const ChartOptions& options) {
   const double thickness = 0.025 * layout.size.height;
-  series.Depth(static_cast<float>(0.6 * layout.CellDepth()));
+  series.Depth(BandDepth(layout));
   series.Thickness(static_cast<float>(thickness));
   series.BevelRadius(static_cast<float>(0.4 * thickness));
   if (options.isRounded) series.Style(RibbonStyle::ROUNDED_RIBBON);

@@ -1,0 +1,31 @@
+/// Where a world goes, and what is written there.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+namespace orvane::tool {
+
+/// Where a world goes and where it looks for its PROTO files.
+struct WorldOutput {
+  std::string path;                        ///< "-" for standard output.
+  std::optional<std::string> protoPrefix;  ///< Left out: as the user's settings say.
+};
+
+/// Adds the options that fill `output`, which must outlive `command`.
+void AddOutputOptions(CLI::App& command, WorldOutput& output);
+
+/// Makes a world with `makeWorld` and writes it, to `out` for "-". No file is touched before all is
+/// made.
+void WriteWorld(const WorldOutput& output, std::ostream& out,
+                const std::function<std::string()>& makeWorld);
+
+/// Writes the three PROTO files to `folder`, which is made when missing. Raises FileError.
+void WriteProtos(const std::filesystem::path& folder);
+
+}  // namespace orvane::tool
