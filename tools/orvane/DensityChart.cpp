@@ -59,15 +59,15 @@ double SilvermanSigma(const DensityGraph& chart) {
   return sum / count;
 }
 
-/// Points, colours and legend entries of the surfaces.
-void DressSurfaces(DensityGraph& chart, const CloudTable& table, const ValueAxes& axes,
+/// Points, colours and legend entries of the surfaces, whose lattice points stand `step` apart.
+void DressSurfaces(DensityGraph& chart, const CloudTable& table, const ValueAxes& axes, double step,
                    const GridLayout& layout) {
   // All hills run out to 0 on the same floor, where none must shine through another.
   const double lift = std::min(0.035, 0.1 * layout.size.height / chart.SurfaceCount());
   for (std::int16_t i = 0; i < chart.SurfaceCount(); ++i) {
     DensitySurfaceInfo& surface = *chart.GetSurface(static_cast<std::int16_t>(i + 1));
     const auto index = static_cast<std::size_t>(i);
-    DressSurface(surface, index, layout);
+    DressSurface(surface, index, step, layout);
     Move(surface.Root()->children, 0, lift * i);
     for (const auto& [x, z] : table.clouds[index].points) {
       surface.PointList().Append(static_cast<float>(axes.x.Share(x) * layout.size.width),
@@ -97,13 +97,12 @@ std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table, std::opt
   DressValueAxes(*chart->XAxisProps(), *chart->YAxisProps(), *chart->ZAxisProps(), axes, layout,
                  style);
   chart->SurfaceCount(static_cast<std::int16_t>(table.clouds.size()));
-  DressSurfaces(*chart, table, axes, layout);
-  DressAroundGrid(*chart, *chart->LegendProps(), layout, SubjectOf(layout), options);
-  chart->LegendProps()->UseSeriesToggle(options.useToggles);
-
   // Three lattice points to a cell.
   const double latticeStep =
       std::max(layout.size.width / 3.0 / axes.x.cells, layout.size.depth / 3.0 / axes.z.cells);
+  DressSurfaces(*chart, table, axes, latticeStep, layout);
+  DressAroundGrid(*chart, *chart->LegendProps(), layout, SubjectOf(layout), options);
+  chart->LegendProps()->UseSeriesToggle(options.useToggles);
   chart->Sigma(sigma.value_or(static_cast<float>(std::max(latticeStep, SilvermanSigma(*chart)))));
   return chart;
 }

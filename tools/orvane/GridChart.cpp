@@ -75,17 +75,18 @@ void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
   DressPopups(popups, layout, options);
 }
 
-void DressSurface(LatticeSurface& surface, std::size_t index, const GridLayout& layout) {
+void DressSurface(LatticeSurface& surface, std::size_t index, double pitch,
+                  const GridLayout& layout) {
   const HostColor color = SeriesColor(index);
   surface.Material()->diffuseColor.Value(color);
   surface.Material()->ambientIntensity.Value(0.4F);  // The lower side gets no other light.
-  surface.WireColor(Mix(color, kDarkInk, 0.6));
+  surface.WireColor(Mix(color, kDarkInk, 0.6 * LineStrength(pitch, layout)));
   surface.LegendText(layout.legend.texts[index]);
 }
 
 void DressGridSurface(SurfaceInfo& surface, std::size_t index, const Table& data,
                       RowsAlong rowsAlong, const GridLayout& layout, const ChartOptions& options) {
-  DressSurface(surface, index, layout);
+  DressSurface(surface, index, std::min(layout.CellWidth(), layout.CellDepth()), layout);
 
   // Heights count from the floor, whatever value that stands for.
   OrvaneScaler scaler;

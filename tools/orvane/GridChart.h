@@ -20,8 +20,10 @@ void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartO
 void DressGridSeries(GridSeries& series, std::size_t index, const Table& table,
                      const GridLayout& layout, const ChartOptions& options);
 
-/// Colours and legend entry of the `index`th surface, counted from 0.
-void DressSurface(LatticeSurface& surface, std::size_t index, const GridLayout& layout);
+/// Colours and legend entry of the `index`th surface, counted from 0, whose wires stand `pitch`
+/// apart.
+void DressSurface(LatticeSurface& surface, std::size_t index, double pitch,
+                  const GridLayout& layout);
 
 /// Heights, colour, legend entry and popups of a surface over the same grid. `data` has a row for
 /// each cell along `rowsAlong`, and a column for each cell along the other axis; the legend entry

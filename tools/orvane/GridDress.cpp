@@ -43,14 +43,16 @@ void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout
   CentreForExamining(chart, middle);
 }
 
+double LineStrength(double pitch, const GridLayout& layout) {
+  return std::clamp(pitch / (0.7 * layout.textHeight), 0.2, 1.0);
+}
+
 void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style) {
   grid.Width(layout.size.width);
   grid.Height(layout.size.height);
   grid.Depth(layout.size.depth);
   grid.WallColor(style.wall);
-  // Lines that stand close together would hide the walls.
-  constexpr double kClear = 0.4;
-  grid.LineColor(Mix(style.wall, style.line, std::clamp(pitch / kClear, 0.2, 1.0)));
+  grid.LineColor(Mix(style.wall, style.line, LineStrength(pitch, layout)));
 }
 
 void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,

@@ -20,8 +20,11 @@ namespace orvane::tool {
 void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout,
                      const Subject& subject, const ChartOptions& options);
 
-/// Extents and colours. Lines are fainter, the closer together they stand: `pitch` is the least
-/// distance between two of them.
+/// How strongly lines are drawn that stand `pitch` apart, from 0.2 to 1: the closer together, the
+/// fainter, or they would hide what they are drawn on.
+double LineStrength(double pitch, const GridLayout& layout);
+
+/// Extents and colours. `pitch` is the least distance between two lines.
 void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style);
 
 /// Texts, sizes and colours of an axis, its labels in the middle of their cells or on their lines.

@@ -15,11 +15,21 @@ namespace {
 /// A label takes at most this share of the room from one to the next.
 constexpr double kFill = 0.8;
 
+/// The least of 1, 2, 5, 10, 20, 50, ... that is not below `least`.
+std::size_t RoundStep(double least) {
+  for (std::size_t power = 1;; power *= 10) {
+    for (const std::size_t mantissa : {1U, 2U, 5U}) {
+      const std::size_t step = mantissa * power;
+      if (static_cast<double>(step) >= least) return step;
+    }
+  }
+}
+
 /// Labels `pitch` apart, as high as `wanted` where there is room. Where they would become
-/// unreadable, only every second, third, ... is shown.
+/// unreadable, only every second, fifth, tenth, ... is shown.
 LabelColumn LayOutLabels(const std::vector<std::string>& texts, double pitch, double wanted) {
   const double readable = 0.7 * wanted;
-  const auto step = static_cast<std::size_t>(std::max(1.0, std::ceil(readable / (kFill * pitch))));
+  const std::size_t step = RoundStep(readable / (kFill * pitch));
   LabelColumn column{{}, std::min(wanted, kFill * static_cast<double>(step) * pitch)};
   for (std::size_t i = 0; i < texts.size(); ++i) {
     column.texts.push_back(i % step == 0 ? Label(texts[i]) : "");

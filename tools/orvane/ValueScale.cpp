@@ -84,10 +84,9 @@ ValueScale TightScale(double lowest, double highest, int mostCells) {
 
 ValueScale FittedScale(double lowest, double highest, int mostCells) {
   constexpr double kFill = 0.6;
-  constexpr double kAllButEqual = 1e-3;  // Labels would have too many digits.
-  const double share = (highest - lowest) / std::max(-lowest, highest);
-  const bool isFar = share > kAllButEqual && share < kFill;
-  return isFar ? ScaleOver(lowest, highest, mostCells) : RoundScale(lowest, highest, mostCells);
+  const double magnitude = std::max(std::abs(lowest), std::abs(highest));
+  const bool isFar = highest / magnitude - lowest / magnitude < kFill;
+  return isFar ? TightScale(lowest, highest, mostCells) : RoundScale(lowest, highest, mostCells);
 }
 
 }  // namespace orvane::tool

@@ -33,8 +33,8 @@ ValueScale RoundScale(double lowest, double highest, int mostCells);
 /// The same without the 0, unless the values lie so close together that only 0 gives them a scale.
 ValueScale TightScale(double lowest, double highest, int mostCells);
 
-/// The same without 0 where the values are far from it, as heights above the sea may be: it would
-/// leave them less than six tenths of the axis. Values that are all but equal keep the 0.
+/// The tight scale where the values are far from 0, as heights above the sea may be: it would leave
+/// them less than six tenths of the axis. The round scale elsewhere.
 ValueScale FittedScale(double lowest, double highest, int mostCells);
 
 }  // namespace orvane::tool
