@@ -51,7 +51,7 @@ struct GridLayout {
   double CellWidth() const { return size.width / static_cast<double>(xLabels.texts.size()); }
   double CellDepth() const { return size.depth / static_cast<double>(zLabels.texts.size()); }
   /// The lowest label along y keeps clear of the first one along x.
-  double YLabelGap() const { return 2.2 * labelGap; }
+  double YLabelGap() const { return 2.6 * labelGap; }
   double LegendHeight() const;
   /// How far from the origin of `labels` their header begins.
   double HeaderDistance(const LabelColumn& labels) const {
