@@ -70,9 +70,10 @@ void SceneWriter::Visit(const Node& node) {
 }
 
 void SceneWriter::NameSharedNodes() {
+  std::unordered_map<std::string_view, int> numbers;  // The last one of each type.
   for (const Node* node : m_unnamedShared) {
     std::string name;
-    int number = 0;
+    int& number = numbers[node->TypeName()];
     do {
       name = std::string(node->TypeName()) + "_" + std::to_string(++number);
     } while (!m_names.try_emplace(name, node).second);
