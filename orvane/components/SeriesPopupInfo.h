@@ -1,13 +1,11 @@
 /// The texts that pop up when a viewer points at the values of a series.
 #pragma once
 
-#include "orvane/components/ISceneRoot.h"
+#include "orvane/components/PopupLook.h"
 #include "orvane/components/VrmlNames.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 
 #include <cstdint>
-#include <memory>
 
 namespace orvane {
 
@@ -32,9 +30,8 @@ class ORVANE_API ISeriesPopupInfo {
   virtual void Spacing(float spacing) = 0;
 };
 
-/// A strip along the series; it is in the scene only while UsePopups is true.
-class ORVANE_API SeriesPopupInfo final : public host::Object,
-                                         public ISceneRoot,
+/// A strip along the series.
+class ORVANE_API SeriesPopupInfo final : public PopupLook<scene::PopupStrip>,
                                          public ISeriesPopupInfo {
  public:
   static constexpr const char* kClassName = "SeriesPopupInfo";
@@ -43,41 +40,21 @@ class ORVANE_API SeriesPopupInfo final : public host::Object,
   SeriesPopupInfo();
 
   /// The texts themselves, one a value; a live list.
-  scene::MFString& PopupText() { return m_strip->popupTexts; }
+  scene::MFString& PopupText() { return Shape()->popupTexts; }
   /// Where a text stands, seen from the value pointed at. Default VRML_TOP; values outside the
   /// enumeration are ignored.
   VRMLPopupAlignment Alignment() const;
   void Alignment(VRMLPopupAlignment alignment);
-  /// Host RGB colours, 0..0xFFFFFF.
-  std::int32_t TextColor() const { return m_strip->textColor.Value(); }
-  void TextColor(std::int32_t rgb) { m_strip->textColor.Value(rgb); }
-  std::int32_t BackgroundColor() const { return m_strip->backgroundColor.Value(); }
-  void BackgroundColor(std::int32_t rgb) { m_strip->backgroundColor.Value(rgb); }
-  std::int32_t BorderColor() const { return m_strip->borderColor.Value(); }
-  void BorderColor(std::int32_t rgb) { m_strip->borderColor.Value(rgb); }
-  /// Height of the texts in scene units, > 0. Default 0.5.
-  float TextHeight() const { return m_strip->textHeight.Value(); }
-  void TextHeight(float height);
-  /// Default false.
-  bool UsePopups() const { return m_usesPopups; }
-  void UsePopups(bool use);
 
   std::int16_t Count() const override;
   void Count(std::int16_t count) override;
-  float radius() const override { return m_strip->stripRadius.Value(); }
+  float radius() const override { return Shape()->stripRadius.Value(); }
   void radius(float value) override;
-  float Depth() const override { return m_strip->stripDepth.Value(); }
+  float Depth() const override { return Shape()->stripDepth.Value(); }
   void Depth(float depth) override;
-  scene::MFFloat& Height() override { return m_strip->pointHeights; }
-  float Spacing() const override { return m_strip->pointSpacing.Value(); }
+  scene::MFFloat& Height() override { return Shape()->pointHeights; }
+  float Spacing() const override { return Shape()->pointSpacing.Value(); }
   void Spacing(float spacing) override;
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
- private:
-  std::shared_ptr<scene::Transform> m_root;
-  std::shared_ptr<scene::PopupStrip> m_strip;
-  bool m_usesPopups = false;
 };
 
 }  // namespace orvane
