@@ -25,7 +25,7 @@ class ORVANE_API Node : public host::Object {
   /// The VRML97 node type or PROTO name.
   virtual const char* TypeName() const = 0;
 
-  /// Fields and events in VRML97 specification order, `children` first.
+  /// Fields and events in the order of ISO/IEC 14772-1, `children` first.
   const std::vector<InterfaceEntry>& Interface() const { return m_interface; }
 
   const std::string& DefName() const { return m_defName; }

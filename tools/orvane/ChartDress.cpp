@@ -14,6 +14,7 @@ Style::Style(HostColor background) {
   const bool isLight = Contrast(background, kDarkInk) > Contrast(background, kLightInk);
   ink = isLight ? kDarkInk : kLightInk;
   wall = Mix(background, ink, isLight ? 0.24 : 0.12);
+  litWall = isLight ? Mix(background, wall, 0.3) : wall;
   line = Mix(background, ink, 0.4);
 }
 

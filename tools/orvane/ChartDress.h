@@ -24,6 +24,7 @@ struct Style {
 
   HostColor ink;
   HostColor wall;
+  HostColor litWall;  ///< As walls look in the light, which lines do not get.
   HostColor line;
 };
 

@@ -44,7 +44,7 @@ void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout
 }
 
 double LineStrength(double pitch, const GridLayout& layout) {
-  return std::clamp(pitch / (0.7 * layout.textHeight), 0.2, 1.0);
+  return std::clamp(pitch / (0.7 * layout.textHeight), 0.1, 1.0);
 }
 
 void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style) {
@@ -52,7 +52,7 @@ void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Sty
   grid.Height(layout.size.height);
   grid.Depth(layout.size.depth);
   grid.WallColor(style.wall);
-  grid.LineColor(Mix(style.wall, style.line, LineStrength(pitch, layout)));
+  grid.LineColor(Mix(style.litWall, style.line, LineStrength(pitch, layout)));
 }
 
 void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,

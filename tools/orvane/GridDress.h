@@ -20,7 +20,7 @@ namespace orvane::tool {
 void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout,
                      const Subject& subject, const ChartOptions& options);
 
-/// How strongly lines are drawn that stand `pitch` apart, from 0.2 to 1: the closer together, the
+/// How strongly lines are drawn that stand `pitch` apart, from 0.1 to 1: the closer together, the
 /// fainter, or they would hide what they are drawn on.
 double LineStrength(double pitch, const GridLayout& layout);
 
