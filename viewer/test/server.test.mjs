@@ -45,56 +45,42 @@ function ask(path, method = 'GET') {
   });
 }
 
+const TEXT = 'text/plain; charset=utf-8';
+
 const cases = [
   ['a world', '/world.wrl', 200, 'model/vrml', '#VRML V2.0 utf8\n'],
   ['a world, whatever the query', '/world.wrl?1', 200, 'model/vrml', '#VRML V2.0 utf8\n'],
   ['the index of a folder', '/sub%20folder/', 200, 'text/html; charset=utf-8', 'index'],
   ['a mounted folder', '/library/code.mjs', 200, 'text/javascript; charset=utf-8', 'export {};'],
-  ['a mounted file', '/page.html', 200, 'text/plain; charset=utf-8', 'secret'],
+  ['a mounted file', '/page.html', 200, TEXT, 'secret'],
   ['a path above the root', '/../secret.txt', 404],
   ['an encoded path above the root', '/%2e%2e%2fsecret.txt', 403],
   ['an encoded path above a mount', '/library/..%2fsecret.txt', 403],
   ['a neighbour whose name starts like the root', '/..%2fsite-secret/key.txt', 403],
   ['an absolute path', `/${encodeURIComponent('/etc/hostname')}`, 404],
+  ['a folder without its last slash', '/sub%20folder', 301, '/sub%20folder/'],
   ['a missing file', '/other.wrl', 404],
   ['a folder without an index', '/', 404],
   ['a malformed escape', '/%zz', 400],
   ['a NUL in a name', '/world%00.wrl', 400],
 ];
 
-for (const [name, path, status, type, body] of cases) {
-  test(`answers ${status} to ${name}`, async () => {
+for (const [name, path, status, header, body] of cases) {
+  test(`answers ${status} to ${name}, and records it`, async () => {
     const answer = await ask(path);
     assert.equal(answer.status, status);
-    if (status === 200) {
-      assert.equal(answer.headers['content-type'], type);
-      assert.equal(answer.body, body);
-    } else {
-      assert.doesNotMatch(answer.body, /secret/);
-    }
+    const { pathname } = new URL(path, server.url);
+    assert.deepEqual(server.requests.at(-1), { path: pathname, status });
+    assert.equal(answer.headers[status === 301 ? 'location' : 'content-type'], header ?? TEXT);
+    if (status === 200) assert.equal(answer.body, body);
+    else assert.doesNotMatch(answer.body, /secret/);
   });
 }
-
-test('sends the slash that a folder lacks', async () => {
-  const answer = await ask('/sub%20folder');
-  assert.equal(answer.status, 301);
-  assert.equal(answer.headers.location, '/sub%20folder/');
-});
 
 test('answers HEAD without a body, and nothing but GET and HEAD', async () => {
   const head = await ask('/world.wrl', 'HEAD');
   assert.deepEqual([head.status, head.headers['content-length'], head.body], [200, '16', '']);
   assert.equal((await ask('/world.wrl', 'POST')).status, 405);
-});
-
-test('records each request with its answer', async () => {
-  const before = server.requests.length;
-  await ask('/world.wrl?again');
-  await ask('/gone.wrl');
-  assert.deepEqual(server.requests.slice(before), [
-    { path: '/world.wrl', status: 200 },
-    { path: '/gone.wrl', status: 404 },
-  ]);
 });
 
 test('listens on the loopback address only', () => {
