@@ -19,10 +19,6 @@ const NO_LIST = /\/worlds\.json$/;
 // X_ITE's passing notices ("Front") are no part of the world.
 const WORLD_ONLY = '.x_ite-private-notification { display: none !important; }';
 
-// How long a pointer rests before, between and after the steps of a click, in ms: X_ITE takes
-// pointer events in with its frames.
-const REST = 80;
-
 // How long a world may take to be ready, in ms: a busy machine draws slowly in software.
 const PATIENCE = 120000;
 
@@ -61,6 +57,14 @@ class View {
     return this.page.close();
   }
 
+  // Goes on to another world, named as for `openPage`, as a link in the page's list would.
+  open(world) {
+    return this.page.evaluate((address) => {
+      history.pushState(null, '', address);
+      dispatchEvent(new PopStateEvent('popstate'));
+    }, `?world=${encodeURIComponent(world)}`);
+  }
+
   // Waits until the page is done with loading, and the world with its fonts is drawn.
   async ready() {
     await this.page.locator('.stage[aria-busy="false"]').waitFor({ state: 'attached' });
@@ -73,8 +77,8 @@ class View {
     return (await alert.isVisible()) ? alert.innerText() : '';
   }
 
-  // Waits until nothing is loading and no camera is on its way, for several frames on end: texts
-  // are drawn some frames after their font has come.
+  // Waits until nothing is loading and no camera is on its way, for several frames on end: X_ITE
+  // takes pointer events in with its frames, and draws texts some frames after their font has come.
   async still() {
     await this.page.evaluate(async () => {
       const { browser } = document.querySelector('x3d-canvas');
@@ -169,7 +173,6 @@ class View {
   // Lets the pointer rest at a place in the window, as `at` gives it.
   async move({ x, y }) {
     await this.page.mouse.move(x, y, { steps: 3 });
-    await this.page.waitForTimeout(REST);
     await this.still();
   }
 
@@ -177,13 +180,11 @@ class View {
   async press(place) {
     await this.move(place);
     await this.page.mouse.down();
-    await this.page.waitForTimeout(REST);
     await this.still();
   }
 
   async release() {
     await this.page.mouse.up();
-    await this.page.waitForTimeout(2 * REST);
     await this.still();
   }
 
@@ -196,7 +197,6 @@ class View {
   async drag(from, to) {
     await this.press(from);
     await this.page.mouse.move(to.x, to.y, { steps: 12 });
-    await this.page.waitForTimeout(2 * REST);
     await this.release();
   }
 

@@ -1,117 +1,95 @@
 // The viewer page in a real browser, on small worlds written by hand.
 
 import assert from 'node:assert/strict';
+import { readdirSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
-import { after, afterEach, before, beforeEach, test } from 'node:test';
-import { launch, openPage } from '../browser.mjs';
+import { test } from 'node:test';
+import { openPage } from '../browser.mjs';
 import { startViewer } from '../server.mjs';
+import {
+  assertDrawn, assertUnlike, browser, byHand, open, serve, server, view,
+} from './worlds.mjs';
 
-const WORLDS = fileURLToPath(new URL('worlds', import.meta.url));
-
-let browser;
-let server;
-let view;
-
-before(async () => {
-  browser = await launch();
-});
-after(() => browser?.close());
-
-beforeEach(async () => {
-  server = await startViewer(WORLDS);
-});
-afterEach(async () => {
-  await view?.close();
-  await server.close();
+serve({
+  files: Object.fromEntries(
+    readdirSync(new URL('worlds', import.meta.url)).map((name) => [name, byHand(name)])),
 });
 
-async function open(world, size) {
-  view = await openPage(browser, server.url, world, size);
+const heading = ({ page }) => page.getByRole('heading', { level: 1 }).textContent();
+const currentLink = () => view.page.locator('nav a[aria-current="page"]').allTextContents();
+const followListed = (name) => view.page.getByRole('link', { name }).click();
+const button = (name) => view.page.getByRole('button', { name, exact: true });
+
+// Waits until the world of this title is on show.
+async function shown(title) {
+  await view.page.getByRole('heading', { name: title }).waitFor();
   await view.ready();
-  return view.page;
 }
 
-const heading = (page) => page.getByRole('heading', { level: 1 }).textContent();
-const currentLink = (page) => page.locator('nav a[aria-current="page"]').allTextContents();
-
-test('lists the worlds and shows the first, without a request beyond its server', async () => {
-  view = await openPage(browser, server.url);
+test('lists the worlds and shows the first, all from its own server', async (context) => {
+  const own = await openPage(browser, server.url);
+  context.after(() => own.close());
   const requests = [];
-  view.page.on('request', (request) => requests.push(request.url()));
-  await view.page.reload();
-  await view.ready();
+  own.page.on('request', (request) => requests.push(request.url()));
+  await own.page.reload();
+  await own.ready();
 
-  assert.equal(await heading(view.page), 'Two views');
-  const links = await view.page.locator('nav a').allTextContents();
-  assert.deepEqual(links, ['Two views', 'A door & a wall']);
-  assert.deepEqual(await currentLink(view.page), ['Two views']);
-  assert.ok((await view.drawnShare(await view.screenshot())) > 0.05);
+  assert.equal(await heading(own), 'Two views');
+  const links = own.page.locator('nav a');
+  assert.deepEqual(await links.allTextContents(), ['Two views', 'A door & a wall']);
+  assert.equal(await links.first().getAttribute('aria-current'), 'page');
+  await assertDrawn(own);
   assert.ok(requests.includes(`${server.url}two-views.wrl`));
-  const own = (url) => url.startsWith(server.url) || /^(data|blob):/.test(url);
-  assert.deepEqual(requests.filter((url) => !own(url)), []);
-  assert.deepEqual(view.complaints, []);
+  const isOwn = (url) => url.startsWith(server.url) || /^(data|blob):/.test(url);
+  assert.deepEqual(requests.filter((url) => !isOwn(url)), []);
+  assert.deepEqual(own.complaints, []);
 });
 
-test('goes from world to world by the list and by the Back button, in one page', async () => {
-  const page = await open('two-views.wrl');
-  await page.evaluate(() => { document.body.dataset.mark = 'same page'; });
-
-  await page.getByRole('link', { name: 'A door & a wall' }).click();
-  await page.getByRole('heading', { name: 'A door & a wall' }).waitFor();
-  await view.ready();
-  assert.match(page.url(), /\?world=links\.wrl$/);
-  assert.deepEqual(await currentLink(page), ['A door & a wall']);
-  assert.deepEqual(await view.viewpoints(), ['Front']);
-
-  await page.goBack();
-  await page.getByRole('heading', { name: 'Two views' }).waitFor();
-  await view.ready();
-  assert.deepEqual(await view.viewpoints(), ['Front', 'From the left']);
-  assert.equal(await page.evaluate(() => document.body.dataset.mark), 'same page');
-  assert.deepEqual(view.complaints, []);
+test('goes from world to world by list, by link and by the Back button, in one page', async () => {
+  await open('two-views.wrl');
+  await view.page.evaluate(() => { document.body.dataset.mark = 'same page'; });
+  const goes = async (way, file, title, viewpoints) => {
+    await way();
+    await shown(title);
+    assert.equal(new URL(view.page.url()).search, `?world=${file}`);
+    assert.deepEqual(await currentLink(), [title]);
+    assert.deepEqual(await view.viewpoints(), viewpoints);
+  };
+  const link = async () => view.click(await view.at('DOOR'));
+  const door = ['links.wrl', 'A door & a wall', ['Front']];
+  await goes(() => followListed('A door & a wall'), ...door);
+  await goes(link, 'two-views.wrl', 'Two views', ['Front', 'From the left']);
+  await goes(() => view.page.goBack(), ...door);
+  assert.equal(await view.page.evaluate(() => document.body.dataset.mark), 'same page');
 });
 
-for (const [way, press] of [
-  ['pointer', (button) => button.click()],
-  ['keyboard', (button) => button.press('Enter')],
-]) {
-  test(`switches the viewpoint by ${way}`, async () => {
-    const page = await open('two-views.wrl');
-    const button = (name) => page.getByRole('button', { name, exact: true });
-    const front = await view.screenshot();
-    assert.equal(await button('Front').getAttribute('aria-pressed'), 'true');
-
-    await press(button('From the left'));
+test('switches the viewpoint by pointer and by keyboard', async () => {
+  await open('two-views.wrl');
+  let [from, to] = ['Front', 'From the left'];
+  for (const press of [() => button(to).click(), () => button(to).press('Enter')]) {
+    assert.equal(await button(from).getAttribute('aria-pressed'), 'true');
+    const before = await view.screenshot();
+    await press();
     await view.still();
-    assert.equal(await button('From the left').getAttribute('aria-pressed'), 'true');
-    assert.equal(await button('Front').getAttribute('aria-pressed'), 'false');
+    assert.equal(await button(to).getAttribute('aria-pressed'), 'true');
+    assert.equal(await button(from).getAttribute('aria-pressed'), 'false');
     // Seen from its side the text is gone; the box looks the same.
-    const share = await view.changedShare(front, await view.screenshot());
-    assert.ok(share > 0.005, `only ${share} of the picture has changed`);
-  });
-}
-
-test('follows a link inside a world', async () => {
-  const page = await open('links.wrl');
-  await view.click(await view.at('DOOR'));
-  await page.getByRole('heading', { name: 'Two views' }).waitFor();
-  await view.ready();
-  assert.match(page.url(), /\?world=two-views\.wrl$/);
-  assert.deepEqual(await currentLink(page), ['Two views']);
-  assert.deepEqual(await view.viewpoints(), ['Front', 'From the left']);
+    await assertUnlike(before);
+    [from, to] = [to, from];
+  }
 });
 
 test('says that a link inside a world is dead, and keeps the world', async () => {
   await open('links.wrl');
-  const before = await view.drawnShare(await view.screenshot());
   await view.click(await view.at('WALL'));
   await view.page.getByRole('alert').waitFor();
   assert.match(await view.trouble(), /link leads nowhere/);
-  assert.ok(before > 0.05);
+  await assertDrawn();
   assert.deepEqual(await view.viewpoints(), ['Front']);
+  view.complaints.length = 0;
 });
 
-const troubles = [
+for (const [name, world, words] of [
   ['a missing file', 'nowhere.wrl', /nowhere\.wrl was not found/],
   ['a file that is no world', 'not-vrml.wrl', /not-vrml\.wrl is not a VRML world/],
   ['a world with an error in it', 'broken.wrl', /broken\.wrl is a broken world\s+Line 3: .*size/],
@@ -119,36 +97,36 @@ const troubles = [
   ['a malformed address', 'http://', /elsewhere/],
   ['missing PROTO files', 'missing-protos.wrl', new RegExp(
     'LEFT\\.wrl could not be loaded.*: qm4_Left, qm4_Middle\\.\\s+.*RIGHT\\.wrl.*: qm4_Right\\.')],
-];
-
-for (const [name, world, words] of troubles) {
+]) {
   test(`says what is wrong with ${name}`, async () => {
-    const page = await open(world);
+    await open('links.wrl');
+    await view.open(world);
+    await view.ready();
     assert.match(await view.trouble(), words);
-    assert.equal(await page.getByRole('status').isVisible(), false);
+    assert.equal(await view.page.getByRole('status').isVisible(), false);
 
     // The next world is shown as if nothing had happened.
-    await page.getByRole('link', { name: 'Two views' }).click();
-    await page.getByRole('heading', { name: 'Two views' }).waitFor();
-    await view.ready();
+    await followListed('Two views');
+    await shown('Two views');
     assert.equal(await view.trouble(), '');
-    assert.ok((await view.drawnShare(await view.screenshot())) > 0.05);
+    await assertDrawn();
+    view.complaints.length = 0;
   });
 }
 
 test('works without a list of worlds', async (context) => {
   const bare = await startViewer(fileURLToPath(new URL('.', import.meta.url)));
   context.after(() => bare.close());
-  view = await openPage(browser, bare.url);
-  await view.ready();
-  assert.match(await view.trouble(), /No world to show/);
-  await view.close();
+  const own = await openPage(browser, bare.url);
+  context.after(() => own.close());
+  await own.ready();
+  assert.match(await own.trouble(), /No world to show/);
 
-  view = await openPage(browser, bare.url, 'worlds/two-views.wrl');
-  await view.ready();
-  assert.equal(await view.trouble(), '');
-  assert.equal(await heading(view.page), 'two-views.wrl');
-  assert.equal(await view.page.locator('nav').isVisible(), false);
+  await own.open('worlds/two-views.wrl');
+  await own.ready();
+  assert.equal(await own.trouble(), '');
+  assert.equal(await heading(own), 'two-views.wrl');
+  assert.equal(await own.page.locator('nav').isVisible(), false);
 });
 
 for (const [lack, prepare, words] of [
@@ -157,33 +135,35 @@ for (const [lack, prepare, words] of [
     HTMLCanvasElement.prototype.getContext = () => null;
   }), /cannot draw worlds/],
 ]) {
-  test(`says that it lacks ${lack}`, async () => {
-    view = await openPage(browser, server.url, 'two-views.wrl');
-    await prepare(view.page);
-    await view.page.reload();
-    await view.page.getByRole('alert').waitFor();
-    assert.match(await view.trouble(), words);
+  test(`says that it lacks ${lack}`, async (context) => {
+    const own = await openPage(browser, server.url, 'two-views.wrl');
+    context.after(() => own.close());
+    await prepare(own.page);
+    await own.page.reload();
+    await own.page.getByRole('alert').waitFor();
+    assert.match(await own.trouble(), words);
   });
 }
 
 test('says what it is doing while a world is on its way', async () => {
-  const page = await open('two-views.wrl');
+  await open('two-views.wrl');
+  const status = view.page.getByRole('status');
   let letGo;
   const held = new Promise((done) => { letGo = done; });
-  await page.route('**/links.wrl', (route) => held.then(() => route.continue()));
-  await page.getByRole('link', { name: 'A door & a wall' }).click();
-  await page.getByRole('status').filter({ hasText: 'Fetching links.wrl' }).waitFor();
+  await view.page.route('**/links.wrl', (route) => held.then(() => route.continue()));
+  await followListed('A door & a wall');
+  await status.filter({ hasText: 'Fetching links.wrl' }).waitFor();
   letGo();
-  await page.getByRole('heading', { name: 'A door & a wall' }).waitFor();
-  await view.ready();
-  assert.equal(await page.getByRole('status').isVisible(), false);
+  await shown('A door & a wall');
+  assert.equal(await status.isVisible(), false);
 });
 
 test('fits a narrow window, with a stage no taller than 4:3', async () => {
-  const page = await open('two-views.wrl', { width: 320, height: 640 });
-  const widest = await page.evaluate(() => document.scrollingElement.scrollWidth);
+  await open('two-views.wrl');
+  await view.page.setViewportSize({ width: 320, height: 640 });
+  const widest = await view.page.evaluate(() => document.scrollingElement.scrollWidth);
   assert.ok(widest <= 320, `the page is ${widest} pixels wide`);
-  const canvas = await page.locator('x3d-canvas').boundingBox();
+  const canvas = await view.page.locator('x3d-canvas').boundingBox();
   assert.ok(canvas.width > 280 && canvas.height > 200, JSON.stringify(canvas));
   assert.ok(canvas.width / canvas.height > 1.33, JSON.stringify(canvas));
 });

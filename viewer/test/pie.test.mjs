@@ -1,16 +1,10 @@
-// Pies made by the command-line program, in a real browser and by real pointer input.
-//
-// The environment variable ORVANE names the program.
+// Pies in a real browser and by real pointer input.
 
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
-import { mkdtemp, rm, writeFile } from 'node:fs/promises';
-import { tmpdir } from 'node:os';
-import { join, resolve } from 'node:path';
-import { after, afterEach, before, describe, test } from 'node:test';
-import { promisify } from 'node:util';
-import { launch, openPage } from '../browser.mjs';
-import { startViewer } from '../server.mjs';
+import { describe, test } from 'node:test';
+import {
+  ASIDE, assertLike, assertNear, assertToggles, assertUnlike, open, serve, view,
+} from './worlds.mjs';
 
 const TABLE = `Source,Energy
 Coal,4000
@@ -27,60 +21,14 @@ const SHAPES = {
   'ring.wrl': 'qm4_RoundedRingSlice',
 };
 
-// A place of the window where the pies show nothing but background.
-const ASIDE = { x: 30, y: 100 };
-
-// The least share of the picture that a visible change takes up, and the most that rounding leaves
-// between two pictures of one scene.
-const SEEN = 0.002;
-const SAME = 0.0005;
-
-let folder;
-let server;
-let browser;
-let view;
-
-before(async () => {
-  assert.ok(process.env.ORVANE, 'Set ORVANE to the path of the orvane program.');
-  folder = await mkdtemp(join(tmpdir(), 'viewer-'));
-  const orvane = (...args) => (
-    promisify(execFile)(resolve(process.env.ORVANE), args, { cwd: folder })
-  );
-  await writeFile(join(folder, 'table.csv'), TABLE);
-  const pie = ['chart', 'pie', 'table.csv', '-o'];
-  await orvane(...pie, 'pie.wrl');
-  await orvane(...pie, 'rounded.wrl', '--style', 'rounded', '--spin');
-  await orvane(...pie, 'ring.wrl', '--style', 'ring', '--labels', 'always');
-  server = await startViewer(folder);
-  browser = await launch();
+serve({
+  files: { 'table.csv': TABLE },
+  charts: {
+    'pie.wrl': 'chart pie table.csv',
+    'rounded.wrl': 'chart pie table.csv --style rounded --spin',
+    'ring.wrl': 'chart pie table.csv --style ring --labels always',
+  },
 });
-
-after(async () => {
-  await browser?.close();
-  await server?.close();
-  if (folder) await rm(folder, { recursive: true });
-});
-
-async function open(world) {
-  view = await openPage(browser, server.url, world);
-  await view.ready();
-  assert.equal(await view.trouble(), '');
-}
-
-afterEach(async () => {
-  const complaints = view?.complaints;
-  await view?.close();
-  view = undefined;
-  assert.deepEqual(complaints ?? [], [], 'the browser complains');
-});
-
-const changed = async (before) => view.changedShare(before, await view.screenshot());
-
-function near(actual, expected, tolerance, message) {
-  for (const [i, value] of expected.entries()) {
-    assert.ok(Math.abs(actual[i] - value) <= tolerance, `${message}: ${actual}, not ${expected}`);
-  }
-}
 
 const pixels = ({ x, y }) => [x, y];
 
@@ -103,8 +51,10 @@ async function slice(number, shape) {
 }
 
 describe('a slice', () => {
-  for (const [world, number] of [['pie.wrl', 4], ['rounded.wrl', 3], ['ring.wrl', 1]]) {
-    test(`of ${world} is dragged outwards and stays within its line`, async () => {
+  for (const [world, number, other] of [
+    ['pie.wrl', 4, 2], ['rounded.wrl', 3, 4], ['ring.wrl', 1, 2],
+  ]) {
+    test(`of ${world} is dragged outwards on its line, and goes with its check box`, async () => {
       await open(world);
       const whole = await view.screenshot();
       const { above, along, tip, moved } = await slice(number, SHAPES[world]);
@@ -116,32 +66,35 @@ describe('a slice', () => {
 
       await view.press(start);
       await view.move(out);
-      near(await moved(), [1, 0, 0], 0.1, 'one unit outwards');
-      near(pixels(await tip()), pixels(tipThen), 8, 'the tip, one unit out along the middle');
-      assert.ok((await changed(whole)) > SEEN, 'the picture is the same');
+      assertNear(await moved(), [1, 0, 0], 0.1, 'one unit outwards');
+      assertNear(pixels(await tip()), pixels(tipThen), 8, 'the tip, one unit out along the middle');
+      await assertUnlike(whole);
 
       await view.move(farOutAside);
       const [x, ...aside] = await moved();
       assert.ok(x > 1.2 && x < 4, `outwards: ${x}`);
-      near(aside, [0, 0], 1e-6, 'off its line');
+      assertNear(aside, [0, 0], 1e-6, 'off its line');
 
       await view.move(inwards);
-      near(await moved(), [0, 0, 0], 1e-6, 'further in than its place');
+      assertNear(await moved(), [0, 0, 0], 1e-6, 'further in than its place');
       await view.move(out);
       await view.release();
-      near(await moved(), [1, 0, 0], 0.1, 'when it was let go');
+      assertNear(await moved(), [1, 0, 0], 0.1, 'when it was let go');
 
       // Taken hold of again, it goes on from where it is.
       await view.press(await above());
-      near(await moved(), [1, 0, 0], 0.1, 'when it is taken hold of again');
+      assertNear(await moved(), [1, 0, 0], 0.1, 'when it is taken hold of again');
       await view.release();
+
+      await view.move(ASIDE);
+      const path = (i) => [`SLICE_TOGGLE_${i}`, SHAPES[world]];
+      await assertToggles(`CHECK_BOX_${number}`, path(number), [path(other)]);
     });
   }
 
   test('shows its text while it is pressed', async () => {
     await open('pie.wrl');
     const shown = async () => (await view.texts()).filter((text) => VALUES.includes(text));
-    await view.move(ASIDE);
     const whole = await view.screenshot();
     for (const [i, value] of VALUES.entries()) {
       const { above } = await slice(i + 1, SHAPES['pie.wrl']);
@@ -150,12 +103,12 @@ describe('a slice', () => {
       assert.deepEqual(await shown(), [], 'a text although nothing is pressed');
       await view.press(place);
       assert.deepEqual(await shown(), [value]);
-      assert.ok((await changed(whole)) > SAME, `nothing to see of "${value}"`);
+      await assertUnlike(whole, `nothing to see of "${value}"`, 0.0005);
       await view.release();
       assert.deepEqual(await shown(), [], `the text "${value}" has stayed`);
     }
     await view.move(ASIDE);
-    assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
+    await assertLike(whole);
   });
 
   test('shows its text all the time on demand', async () => {
@@ -166,27 +119,6 @@ describe('a slice', () => {
     await view.click(await above());
     assert.deepEqual(await texts(), PERCENTAGES);
   });
-
-  for (const [world, number, other] of [['pie.wrl', 1, 2], ['rounded.wrl', 4, 3]]) {
-    test(`of ${world} goes with its check box and comes back`, async () => {
-      await open(world);
-      const box = await view.at(`CHECK_BOX_${number}`);
-      const path = (i) => [`SLICE_TOGGLE_${i}`, SHAPES[world]];
-      await view.move(ASIDE);
-      const whole = await view.screenshot();
-      assert.ok(await view.isDrawn(path(number)));
-
-      await view.click(box);
-      await view.move(ASIDE);
-      assert.equal(await view.isDrawn(path(number)), false);
-      assert.ok(await view.isDrawn(path(other)));
-      assert.ok((await changed(whole)) > SEEN, 'the picture is the same without the slice');
-
-      await view.click(box);
-      await view.move(ASIDE);
-      assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
-    });
-  }
 });
 
 test('the spin axis turns the pie', async () => {
@@ -200,9 +132,9 @@ test('the spin axis turns the pie', async () => {
   await view.move({ x: top.x + 40, y: top.y });
   await view.release();
   const [x, y, z, angle] = await view.read('PIE_TRANS', 'rotation');
-  near([x, Math.abs(y), z], [0, 1, 0], 1e-3, 'the axis of the turn');
+  assertNear([x, Math.abs(y), z], [0, 1, 0], 1e-3, 'the axis of the turn');
   assert.ok(angle > 0.3, `turned by ${angle}`);
-  assert.ok((await changed(whole)) > SEEN, 'the picture is the same');
+  await assertUnlike(whole);
 
   // What faced the viewer went to the right with the pointer, and what was there, to the back.
   const { y: then } = await view.at('PIE_TRANS', [3, height, 0]);

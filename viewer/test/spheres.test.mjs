@@ -2,13 +2,9 @@
 // many, which are a cloud of points, look alike.
 
 import assert from 'node:assert/strict';
-import { mkdtemp, rm, writeFile } from 'node:fs/promises';
-import { tmpdir } from 'node:os';
-import { join } from 'node:path';
-import { after, afterEach, before, describe, test } from 'node:test';
+import { describe, test } from 'node:test';
 import { fileURLToPath } from 'node:url';
-import { launch, openPage } from '../browser.mjs';
-import { startViewer } from '../server.mjs';
+import { assertNear, open, serve, view } from './worlds.mjs';
 
 const RED = [0.8, 0, 0];
 const BLUE = [0, 0, 0.8];
@@ -54,37 +50,11 @@ DEF SPHERES qm4_SphereCollection {
 
 const HIDDEN = { few: 0, many: 200 };
 
-let folder;
-let server;
-let browser;
-let view;
-
-before(async () => {
-  folder = await mkdtemp(join(tmpdir(), 'spheres-'));
-  for (const [name, hidden] of Object.entries(HIDDEN)) {
-    await writeFile(join(folder, `${name}.wrl`), world(hidden));
-  }
-  server = await startViewer(folder, {
-    '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)),
-  });
-  browser = await launch();
+serve({
+  files: Object.fromEntries(
+    Object.entries(HIDDEN).map(([name, hidden]) => [`${name}.wrl`, world(hidden)])),
+  mounts: { '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)) },
 });
-
-after(async () => {
-  await browser?.close();
-  await server?.close();
-  if (folder) await rm(folder, { recursive: true });
-});
-
-afterEach(async () => {
-  await view?.close();
-  view = undefined;
-});
-
-async function open(name, size) {
-  view = await openPage(browser, server.url, `${name}.wrl`, size);
-  await view.ready();
-}
 
 function isSky(color) {
   return color.every((part, i) => Math.abs(part - SKY[i]) < 12);
@@ -129,60 +99,50 @@ const areKept = () => view.page.evaluate(() => {
 
 for (const [name, hidden] of Object.entries(HIDDEN)) {
   describe(`${name} spheres`, () => {
-    for (const size of [{ width: 1000, height: 700 }, { width: 600, height: 800 }]) {
-      test(`are as large as their radii in a window of ${size.width} x ${size.height}`, async () => {
-        await open(name, size);
-        for (const { place, radius } of SPHERES) {
-          const { width } = await seen(place);
-          const expected = await trueWidth(radius);
-          assert.ok(Math.abs(width - expected) <= 2 + 0.04 * expected, `${width}, not ${expected}`);
-        }
-        assert.deepEqual(view.complaints, []);
-      });
-    }
-
-    test('have their colours, and let through what is behind them', async () => {
-      await open(name);
+    test('have their colours, and their radii in a window of any shape', async () => {
+      await open(`${name}.wrl`);
       const [red, blue, clear, plain] = await Promise.all(
         SPHERES.map(async ({ place }) => (await seen(place)).color),
       );
       assert.ok(red[0] > 190 && red[1] < 110 && red[1] === red[2], `red: ${red}`);
       assert.ok(blue[2] > 190 && blue[0] < 110 && blue[0] === blue[1], `blue: ${blue}`);
-      for (const i of [0, 1, 2]) {
-        const mixed = (blue[i] + SKY[i]) / 2;
-        assert.ok(Math.abs(clear[i] - mixed) < 12, `half transparent: ${clear}`);
-      }
+      assertNear(clear, blue.map((part, i) => (part + SKY[i]) / 2), 12, 'half transparent');
       assert.ok(plain.every((part) => part > 220 && part === plain[0]), `no colour: ${plain}`);
+
+      for (const size of [{ width: 600, height: 800 }, { width: 1000, height: 700 }]) {
+        await view.page.setViewportSize(size);
+        await view.still();
+        for (const { place, radius } of SPHERES) {
+          const expected = await trueWidth(radius);
+          assertNear((await seen(place)).width, expected, 2 + 0.04 * expected, 'width');
+        }
+      }
     });
 
     test('go where set_locations sends them, without being made anew', async () => {
-      await open(name);
+      await open(`${name}.wrl`);
       await keepNodes();
       const places = SPHERES.map(({ place }) => moved(place));
       await view.send('SPHERES', 'set_locations', [...Array(hidden).fill([0, 0, 0]), ...places]);
       for (const [i, { place, radius }] of SPHERES.entries()) {
-        const { width } = await seen(moved(place));
-        assert.ok(Math.abs(width - await trueWidth(radius)) < 6, `${i}: ${width}`);
+        assertNear((await seen(moved(place))).width, await trueWidth(radius), 6, `width of ${i}`);
         assert.equal((await seen(place)).width, 0, `${i} is still there`);
       }
       assert.ok(await areKept());
-      assert.deepEqual(view.complaints, []);
     });
 
     test('change their number with their locations', async () => {
-      await open(name);
+      await open(`${name}.wrl`);
       const some = 150; // a cloud, whatever was there before
       const aside = Array(some - 2).fill([0, -50, 0]);
       await view.send('SPHERES', 'set_radii', Array(some).fill(0.3));
       await view.send('SPHERES', 'set_locations', [[0, 0, 0], ...aside, [3, 0, 0]]);
       for (const place of [[0, 0, 0], [3, 0, 0]]) {
-        const { width } = await seen(place);
-        assert.ok(Math.abs(width - await trueWidth(0.3)) < 4, `${width}, not ${await trueWidth(0.3)}`);
+        assertNear((await seen(place)).width, await trueWidth(0.3), 4, 'width');
       }
       await view.send('SPHERES', 'set_locations', [[0, 0, 0]]);
       assert.ok((await seen([0, 0, 0])).width > 10);
       assert.equal((await seen([3, 0, 0])).width, 0);
-      assert.deepEqual(view.complaints, []);
     });
   });
 }

@@ -1,16 +1,11 @@
 // Surface and combination charts in a real browser and by real pointer input.
-//
-// The environment variable ORVANE names the program.
 
 import assert from 'node:assert/strict';
-import { execFile } from 'node:child_process';
-import { mkdtemp, rm, writeFile } from 'node:fs/promises';
-import { tmpdir } from 'node:os';
-import { join, resolve } from 'node:path';
-import { after, afterEach, before, describe, test } from 'node:test';
-import { promisify } from 'node:util';
-import { launch, openPage } from '../browser.mjs';
-import { startViewer } from '../server.mjs';
+import { test } from 'node:test';
+import {
+  ASIDE, assertLike, assertPopsUp, assertRedraws, assertToggles, assertUnlike, open, serve, shows,
+  view,
+} from './worlds.mjs';
 
 const GRID = `Height,west,middle,east,sea
 north,10,14,18,11
@@ -47,63 +42,21 @@ const BELOW = {
   Viewpoints: { AddViewpoint: [{ description: 'Below', position: [4, 1, 24] }] },
 };
 
-// A place of the window where the charts show nothing but background.
-const ASIDE = { x: 30, y: 100 };
-
-// The least share of the picture that a visible change takes up, and the most that rounding leaves
-// between two pictures of one scene.
-const SEEN = 0.002;
-const SAME = 0.0005;
-
-const POPUPS = 'qm4_PopupSurface';
-
-let folder;
-let server;
-let browser;
-let view;
-
-before(async () => {
-  assert.ok(process.env.ORVANE, 'Set ORVANE to the path of the orvane program.');
-  folder = await mkdtemp(join(tmpdir(), 'viewer-'));
-  const orvane = (...args) => (
-    promisify(execFile)(resolve(process.env.ORVANE), args, { cwd: folder })
-  );
-  for (const [name, text] of Object.entries({
+serve({
+  files: {
     'grid.csv': GRID, 'large.csv': LARGE, 'table.csv': TABLE, 'plan.csv': PLAN,
     'below.json': JSON.stringify(BELOW),
-  })) await writeFile(join(folder, name), text);
-  await orvane('chart', 'surface', 'grid.csv', '-o', 'surface.wrl');
-  await orvane('chart', 'surface', 'large.csv', '-o', 'large.wrl');
-  for (const kind of ['column', 'ribbon']) {
-    const out = `${kind}s.wrl`;
-    await orvane('chart', `${kind}-surface`, 'table.csv', '--surface', 'plan.csv', '-o', out);
-  }
-  await orvane('build', 'below.json', '-o', 'below.wrl');
-  server = await startViewer(folder);
-  browser = await launch();
+  },
+  charts: {
+    'surface.wrl': 'chart surface grid.csv',
+    'large.wrl': 'chart surface large.csv',
+    'columns.wrl': 'chart column-surface table.csv --surface plan.csv',
+    'ribbons.wrl': 'chart ribbon-surface table.csv --surface plan.csv',
+    'below.wrl': 'build below.json',
+  },
 });
 
-after(async () => {
-  await browser?.close();
-  await server?.close();
-  if (folder) await rm(folder, { recursive: true });
-});
-
-async function open(world) {
-  view = await openPage(browser, server.url, world);
-  await view.ready();
-  assert.equal(await view.trouble(), '');
-}
-
-afterEach(async () => {
-  const complaints = view?.complaints;
-  await view?.close();
-  view = undefined;
-  assert.deepEqual(complaints ?? [], [], 'the browser complains');
-});
-
-const changed = async (before) => view.changedShare(before, await view.screenshot());
-const shown = async (text) => (await view.texts()).join('\n').includes(text);
+const POPUPS = 'qm4_PopupSurface';
 
 // Where in the window a lattice point is, counted from 0, or a place between points; `side` is 1
 // for the sheet above it and -1 for the one below.
@@ -113,42 +66,40 @@ async function pointAt(x, z, side = 1) {
       view.read(POPUPS, field))));
   const [i, k] = [Math.min(columns - 2, Math.floor(x)), Math.floor(z - 0.001 * (z > 0))];
   const along = (n) => heights[n] + (x - i) * (heights[n + 1] - heights[n]);
-  const height = along(k * columns + i) + (z - k) * (along((k + 1) * columns + i) - along(k * columns + i));
-  return view.at(POPUPS, [x * dx, height + side * depth, z * dz]);
+  const [back, front] = [k, k + 1].map((row) => along(row * columns + i));
+  return view.at(POPUPS, [x * dx, back + (z - k) * (front - back) + side * depth, z * dz]);
 }
 
-test('a popup shows the text of the point under the pointer, follows it and goes', async () => {
-  await open('surface.wrl');
-  await view.move(ASIDE);
-  const before = await view.screenshot();
-  for (const [x, z, text] of [
+for (const [world, side, points, elsewhere = () => ASIDE] of [
+  ['surface.wrl', 1, [
     [0.1, 1.9, 'south, west\nHeight: 12'],
     [1, 1.9, 'south, middle\nHeight: 15'],
     [1, 1.1, 'centre, middle\nHeight: 17'],
     [2.2, 1.1, 'centre, east\nHeight: 17'],
     [2.9, 0.9, 'centre, sea\nHeight: 10'],
-  ]) {
-    await view.move(await pointAt(x, z));
-    assert.ok(await shown(text), `no popup "${text}" among ${await view.texts()}`);
-    assert.ok((await changed(before)) > SEEN, `nothing to see of the popup "${text}"`);
-  }
-  await view.move(ASIDE);
-  assert.equal(await shown('Height: '), false, 'a popup has stayed');
-  assert.ok((await changed(before)) < SAME, 'the picture is not what it was');
-});
-
-test('a popup tells the points of a large surface apart', async () => {
-  await open('large.wrl');
-  for (const [x, z] of [[30, 30], [31, 30], [31, 29], [10, 10]]) {
-    await view.move(await pointAt(x, z));
-    assert.ok(await shown(`r${z}, c${x}\n`), `no r${z}, c${x} among ${await view.texts()}`);
-  }
-});
+  ]],
+  ['large.wrl', 1, [[30, 30], [31, 30], [31, 29], [10, 10]].map(([x, z]) => (
+    [x, z, `r${z}, c${x}\n`]))],
+  // Elsewhere is a point without a text.
+  ['below.wrl', -1, [[0.1, 0.9, 'left'], [1, 0.9, 'middle'], [1.1, 0.1, 'low']],
+    () => pointAt(2, 0.9, -1)],
+]) {
+  test(`a popup over ${world} shows the text under the pointer, follows it and goes`, async () => {
+    await open(world);
+    const before = await view.screenshot();
+    for (const [x, z, text] of points) {
+      await assertPopsUp(await pointAt(x, z, side), text);
+      await assertUnlike(before, `nothing to see of the popup "${text}"`);
+    }
+    await view.move(await elsewhere());
+    for (const [, , text] of points) assert.equal(await shows(text), false, `"${text}" has stayed`);
+    await assertLike(before);
+  });
+}
 
 test('a popup follows a pointer that is quick enough to come upon it', async () => {
   await open('surface.wrl');
-  await view.move(await pointAt(1.55, 1.8));
-  assert.ok(await shown('south, east'));
+  await assertPopsUp(await pointAt(1.55, 1.8), 'south, east');
   const panel = await view.at([POPUPS, 'Billboard', 'Text']);
   await view.page.mouse.move(panel.x, panel.y);
   await view.still();
@@ -160,55 +111,23 @@ test('a popup follows a pointer that is quick enough to come upon it', async () 
   assert.deepEqual((await view.texts()).slice(-2), behind);
 });
 
-test('a popup answers from below too', async () => {
-  await open('below.wrl');
-  for (const [x, z, text] of [[0.1, 0.9, 'left'], [1, 0.9, 'middle'], [1.1, 0.1, 'low']]) {
-    await view.move(await pointAt(x, z, -1));
-    assert.ok(await shown(text), `no popup "${text}" among ${await view.texts()}`);
-  }
-  await view.move(await pointAt(2, 0.9, -1));
-  assert.equal((await view.texts()).includes('middle'), false, 'a point without a text has one');
-});
+const SURFACE = ['SURFACE_1', 'qm4_Surface'];
 
-test('new heights draw the surface and its wires anew', async () => {
+test('new heights draw the surface and its wires anew, a check box takes both away', async () => {
   await open('surface.wrl');
-  await view.move(ASIDE);
-  const whole = await view.screenshot();
-  for (const shape of ['qm4_Surface', 'qm4_ElevationWireframe']) {
-    const path = ['SURFACE_1', shape];
-    const heights = await view.read(path, 'height');
-    await view.send(path, 'height', heights.map((height) => 0.3 * height));
-    assert.ok((await changed(whole)) > SEEN, `the picture is the same with another ${shape}`);
-    await view.send(path, 'height', heights);
-    assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
+  for (const path of [SURFACE, ['SURFACE_1', 'qm4_ElevationWireframe']]) {
+    await assertRedraws(path, 'height');
+    await assertToggles('CHECK_BOX_1', path);
   }
 });
 
-describe('a toggle', () => {
-  const surface = ['SURFACE_1', 'qm4_Surface'];
-  for (const [world, box, path, others] of [
-    ['surface.wrl', 'CHECK_BOX_1', surface, []],
-    ['columns.wrl', 'CHECK_BOX_4', surface, [['SERIES_TOGGLE_1_3', 'qm4_OutlinedColumnSeries']]],
-    ['columns.wrl', 'CHECK_BOX_1_3', ['SERIES_TOGGLE_1_3', 'qm4_OutlinedColumnSeries'], [surface]],
-    ['ribbons.wrl', 'CHECK_BOX_4', surface, [['SERIES_TOGGLE_3', 'qm4_OutlinedRibbonSeries']]],
-    ['ribbons.wrl', 'CHECK_BOX_3', ['SERIES_TOGGLE_3', 'qm4_OutlinedRibbonSeries'], [surface]],
-  ]) {
-    test(`${box} of ${world} takes ${path[0]} away, alone, and brings it back`, async () => {
-      await open(world);
-      const place = await view.at(box);
-      await view.move(ASIDE);
-      const whole = await view.screenshot();
-      assert.ok(await view.isDrawn(path));
-
-      await view.click(place);
-      await view.move(ASIDE);
-      assert.equal(await view.isDrawn(path), false);
-      for (const other of others) assert.ok(await view.isDrawn(other), `${other[0]} is gone too`);
-      assert.ok((await changed(whole)) > SEEN, 'the picture is the same');
-
-      await view.click(place);
-      await view.move(ASIDE);
-      assert.ok((await changed(whole)) < SAME, 'the picture is not what it was');
-    });
-  }
-});
+for (const [world, box, series] of [
+  ['columns.wrl', 'CHECK_BOX_1_3', ['SERIES_TOGGLE_1_3', 'qm4_OutlinedColumnSeries']],
+  ['ribbons.wrl', 'CHECK_BOX_3', ['SERIES_TOGGLE_3', 'qm4_OutlinedRibbonSeries']],
+]) {
+  test(`surface and series of ${world} go with boxes of their own`, async () => {
+    await open(world);
+    await assertToggles('CHECK_BOX_4', SURFACE, [series]);
+    await assertToggles(box, series, [SURFACE]);
+  });
+}
