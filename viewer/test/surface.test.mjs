@@ -1,10 +1,11 @@
-// Surface and combination charts in a real browser and by real pointer input.
+// Surface, combination and density charts in a real browser and by real pointer input.
 
 import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 import {
-  ASIDE, assertLike, assertPopsUp, assertRedraws, assertToggles, assertUnlike, open, serve, shows,
-  view,
+  ASIDE, assertDrawn, assertLike, assertNear, assertPopsUp, assertRedraws, assertToggles,
+  assertUnlike, open, serve, shows, view,
 } from './worlds.mjs';
 
 const GRID = `Height,west,middle,east,sea
@@ -42,16 +43,19 @@ const BELOW = {
   Viewpoints: { AddViewpoint: [{ description: 'Below', position: [4, 1, 24] }] },
 };
 
+const PENGUINS = readFileSync(new URL('../../examples/data/penguin-bills.csv', import.meta.url));
+
 serve({
   files: {
     'grid.csv': GRID, 'large.csv': LARGE, 'table.csv': TABLE, 'plan.csv': PLAN,
-    'below.json': JSON.stringify(BELOW),
+    'bills.csv': PENGUINS, 'below.json': JSON.stringify(BELOW),
   },
   charts: {
     'surface.wrl': 'chart surface grid.csv',
     'large.wrl': 'chart surface large.csv',
     'columns.wrl': 'chart column-surface table.csv --surface plan.csv',
     'ribbons.wrl': 'chart ribbon-surface table.csv --surface plan.csv',
+    'density.wrl': 'chart density bills.csv',
     'below.wrl': 'build below.json',
   },
 });
@@ -131,3 +135,13 @@ for (const [world, box, series] of [
     await assertToggles(box, series, [SURFACE]);
   });
 }
+
+test('a density chart has a hill for each group, and a check box takes one away', async () => {
+  await open('density.wrl');
+  await assertDrawn();
+  const hills = [1, 2, 3].map((i) => [`SURFACE_${i}`, 'ElevationGrid']);
+  const tops = await Promise.all(hills.map(async (hill) => (
+    Math.max(...await view.read(hill, 'height')))));
+  assertNear(tops, [4.5, 4.5, 4.5], 1e-3, 'tops of the hills, at 100 %');
+  await assertToggles('CHECK_BOX_2', hills[1], [hills[0], hills[2]]);
+});
