@@ -125,6 +125,16 @@ test('new heights draw the surface and its wires anew, a check box takes both aw
   }
 });
 
+test('of hundreds of columns some have a wire, the first and the last among them', async () => {
+  await open('surface.wrl');
+  const wires = ['SURFACE_1', 'qm4_ElevationWireframe'];
+  await view.send(wires, 'xDimension', 300);
+  const index = await view.read([...wires, 'IndexedLineSet'], 'coordIndex');
+  const lines = index.join().split(',-1').map((line) => line.match(/\d+/g)?.map(Number) ?? []);
+  const columns = lines.slice(3).filter((line) => line.length).map(([start]) => start);
+  assert.deepEqual(columns, [...Array(100).keys()].map((i) => 3 * i).concat(299));
+});
+
 for (const [world, box, series] of [
   ['columns.wrl', 'CHECK_BOX_1_3', ['SERIES_TOGGLE_1_3', 'qm4_OutlinedColumnSeries']],
   ['ribbons.wrl', 'CHECK_BOX_3', ['SERIES_TOGGLE_3', 'qm4_OutlinedRibbonSeries']],
