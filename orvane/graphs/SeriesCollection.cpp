@@ -4,7 +4,15 @@
 #include "orvane/host/AutomationError.h"
 #include "orvane/host/Describe.h"
 
+#include <numeric>
+
 namespace orvane {
+
+std::vector<std::int16_t> Indexes(std::int16_t count) {
+  std::vector<std::int16_t> indexes(static_cast<std::size_t>(count));
+  std::iota(indexes.begin(), indexes.end(), std::int16_t{1});
+  return indexes;
+}
 
 const host::TypeInfo& SeriesCollection::Type() const {
   using Collection = SeriesCollection;

@@ -9,6 +9,9 @@
 
 namespace orvane {
 
+/// The indexes 1 to `count`. A loop that counted in 16 bits itself would not end at 32767.
+ORVANE_API std::vector<std::int16_t> Indexes(std::int16_t count);
+
 /// The mark of everything that a SeriesCollection may hold.
 class ORVANE_API ISeriesInfo {
  public:

@@ -314,6 +314,14 @@ TEST_F(Scatter, HoldsAsManyPointsAsItCanCount) {
   EXPECT_NE(Written().find(", 32766 0 0 ]"), std::string::npos);
 }
 
+TEST_F(Scatter, HasAsManyFramesAsItCanCount) {
+  chart->PointFrameCount(32767);
+  Written();
+  EXPECT_EQ(Interpolator().key.Count(), 32767);
+  chart->PointAnimationStyle(AnimationStyle::VRML_DISCRETE);
+  EXPECT_NE(Written().find("\"Point frame 32767\" ]"), std::string::npos);
+}
+
 TEST_F(Scatter, HasALegendWithoutCheckBoxes) {
   Fill(1);
   const auto legend = chart->LegendProps();

@@ -51,7 +51,7 @@ double SilvermanSigma(const std::vector<scene::Vec2f>& points) {
 double SilvermanSigma(const DensityGraph& chart) {
   double sum = 0;
   double count = 0;
-  for (std::int16_t i = 1; i <= chart.SurfaceCount(); ++i) {
+  for (const std::int16_t i : Indexes(chart.SurfaceCount())) {
     const auto& points = chart.GetSurface(i)->PointList().Items();
     sum += SilvermanSigma(points) * static_cast<double>(points.size());
     count += static_cast<double>(points.size());

@@ -73,7 +73,7 @@ void CategoryGraph::RequireSeries(std::int16_t index, const SeriesCollection& ro
 
 float CategoryGraph::LargestDepthIn(const SeriesCollection& rows) {
   float depth = 0;
-  for (std::int16_t i = 1; i <= rows.Count(); ++i) {
+  for (const std::int16_t i : Indexes(rows.Count())) {
     depth = std::max(depth, rows.Get<GridSeries>(i)->Depth());
   }
   return depth;

@@ -58,12 +58,12 @@ void ColumnGraph::ResizeSlot(SeriesCollection& slot, std::int16_t rows) const {
 }
 
 void ColumnGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
-  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) ResizeSlot(*Slot(i), newCount);
+  for (const std::int16_t i : Indexes(m_slots->Count())) ResizeSlot(*Slot(i), newCount);
 }
 
 float ColumnGraph::LargestDepth() const {
   float depth = 0;
-  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+  for (const std::int16_t i : Indexes(m_slots->Count())) {
     depth = std::max(depth, LargestDepthIn(*Slot(i)));
   }
   return depth;
@@ -71,7 +71,7 @@ float ColumnGraph::LargestDepth() const {
 
 float ColumnGraph::WidthOfSlots() const {
   float width = 0;
-  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+  for (const std::int16_t i : Indexes(m_slots->Count())) {
     const auto slot = Slot(i);
     if (slot->Count() > 0) width = Single(width + slot->Get<ColumnSeriesInfo>(1)->Width());
   }
@@ -83,10 +83,10 @@ void ColumnGraph::BuildSeries(LegendWiring& legend) {
   const bool isAdjacent = m_spacingStyle == ColumnCellSpacing::ADJACENT;
   // Where the next of the adjacent slots begins; together they stand in the middle of the cell.
   float offset = Single((cellWidth - WidthOfSlots()) / 2);
-  for (std::int16_t i = 1; i <= m_slots->Count(); ++i) {
+  for (const std::int16_t i : Indexes(m_slots->Count())) {
     const auto slot = Slot(i);
     float width = 0;
-    for (std::int16_t j = 1; j <= slot->Count(); ++j) {
+    for (const std::int16_t j : Indexes(slot->Count())) {
       auto& series = *slot->Get<ColumnSeriesInfo>(j);
       width = series.Width();
       const double x =

@@ -29,7 +29,7 @@ class SeriesGraph : public CategoryGraph {
 
   void BuildSeries(LegendWiring& legend) override {
     const float x = host::Single(CellWidth(Grid()) / 2.0);
-    for (std::int16_t i = 1; i <= m_series->Count(); ++i) {
+    for (const std::int16_t i : Indexes(m_series->Count())) {
       LayOutSeries(*m_series->Get<S>(i), x, i, std::to_string(i), legend);
     }
   }

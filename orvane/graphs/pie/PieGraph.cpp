@@ -65,19 +65,19 @@ std::shared_ptr<PieSliceInfo> PieGraph::GetSlice(std::int16_t index) const {
 void PieGraph::radius(float value) {
   host::Require(value > 0, "Invalid radius, must be greater than 0");
   // A slice may reject what its cone cannot follow; then the first one does.
-  for (std::int16_t i = 1; i <= SliceCount(); ++i) Slice(i)->radius(value);
+  for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->radius(value);
   m_radius = value;
 }
 
 void PieGraph::InnerRadius(float radius) {
   host::Require(radius > 0, "Invalid inner radius, must be greater than 0");
-  for (std::int16_t i = 1; i <= SliceCount(); ++i) Slice(i)->InnerRadius(radius);
+  for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->InnerRadius(radius);
   m_innerRadius = radius;
 }
 
 void PieGraph::BevelRadius(float radius) {
   host::Require(radius > 0, "Invalid bevel radius, must be greater than 0");
-  for (std::int16_t i = 1; i <= SliceCount(); ++i) Slice(i)->BevelRadius(radius);
+  for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->BevelRadius(radius);
   m_bevelRadius = radius;
 }
 
@@ -109,7 +109,7 @@ void PieGraph::Arrange() {
 
 float PieGraph::MaxHeight() const {
   float height = 0;
-  for (std::int16_t i = 1; i <= SliceCount(); ++i) height = std::max(height, Slice(i)->Height());
+  for (const std::int16_t i : Indexes(SliceCount())) height = std::max(height, Slice(i)->Height());
   return height;
 }
 
@@ -125,7 +125,7 @@ void PieGraph::BuildSlices() {
   LegendWiring legend(*m_legend, Routes());
   m_pie->children.Clear();
   float end = 0;  // Where the slices so far end, an angle about +Y.
-  for (std::int16_t i = 1; i <= SliceCount(); ++i) {
+  for (const std::int16_t i : Indexes(SliceCount())) {
     auto& slice = *Slice(i);
     const double angle = slice.Angle();
     slice.Root()->rotation.SetValue(0, 1, 0, Single(end - angle / 2));

@@ -155,7 +155,7 @@ void ScatterGraph::AlignZAxis() {
 }
 
 void ScatterGraph::BuildFrameSwitch() {
-  for (std::int16_t i = 1; i <= PointFrameCount(); ++i) {
+  for (const std::int16_t i : Indexes(PointFrameCount())) {
     m_frameSwitch->choice.Append(Get1PointFrame(i)->RootNode());
   }
   m_frameSwitch->whichChoice.Value(0);
@@ -172,7 +172,7 @@ void ScatterGraph::BuildFrameSlider() {
   m_slider->SliderMin(0);
   m_slider->SliderMax(Int16(count - 1));
   m_slider->Labels().Clear();
-  for (std::int16_t i = 1; i <= count; ++i) {
+  for (const std::int16_t i : Indexes(count)) {
     const auto description = Get1PointFrame(i)->Description();
     m_slider->Labels().Append(description.empty() ? "Point frame " + std::to_string(i)
                                                   : description);
@@ -212,8 +212,7 @@ void ScatterGraph::BuildAnimation() {
 
 std::vector<std::int16_t> ScatterGraph::FrameSequence() const {
   const std::int16_t count = PointFrameCount();
-  std::vector<std::int16_t> frames;
-  for (std::int16_t i = 1; i <= count; ++i) frames.push_back(i);
+  std::vector<std::int16_t> frames = Indexes(count);
   if (m_loopStyle == LoopStyle::VRML_LOOP_CONTINUOUS) frames.push_back(1);
   if (m_loopStyle == LoopStyle::VRML_BACK_AND_FORTH) {
     for (std::int16_t i = Int16(count - 1); i >= 1; --i) frames.push_back(i);
@@ -223,7 +222,7 @@ std::vector<std::int16_t> ScatterGraph::FrameSequence() const {
 
 void ScatterGraph::FillInterpolator(const std::vector<std::int16_t>& frames) {
   std::size_t mostPoints = 0;
-  for (std::int16_t i = 1; i <= PointFrameCount(); ++i) {
+  for (const std::int16_t i : Indexes(PointFrameCount())) {
     mostPoints = std::max(mostPoints, Get1PointFrame(i)->Locations().size());
   }
 

@@ -21,7 +21,7 @@ class ComboGraph : public SurfaceChart<G> {
     constexpr double kPopupOffset = 0.6;  // Popups stand in front of the series.
     G::BuildSeries(legend);
     const float offset = host::Single(kPopupOffset * this->LargestDepth());
-    for (std::int16_t i = 1; i <= this->SurfaceCount(); ++i) {
+    for (const std::int16_t i : Indexes(this->SurfaceCount())) {
       this->GetSurface(i)->PopupZOffset(offset);
     }
     m_surfacesGroup->children.Clear();

@@ -25,11 +25,11 @@ SurfaceGraph::SurfaceGraph() {
 }
 
 void SurfaceGraph::m_gridInfo_XCellCountChanged(std::int16_t newCount) {
-  for (std::int16_t i = 1; i <= SurfaceCount(); ++i) GetSurface(i)->XCount(newCount);
+  for (const std::int16_t i : Indexes(SurfaceCount())) GetSurface(i)->XCount(newCount);
 }
 
 void SurfaceGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
-  for (std::int16_t i = 1; i <= SurfaceCount(); ++i) GetSurface(i)->ZCount(newCount);
+  for (const std::int16_t i : Indexes(SurfaceCount())) GetSurface(i)->ZCount(newCount);
 }
 
 }  // namespace orvane

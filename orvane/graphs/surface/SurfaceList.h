@@ -47,7 +47,7 @@ class SurfaceList {
   /// legend entry and its check box unless its text is blank.
   template <class F>
   void LayOut(scene::MFNode& children, LegendWiring& legend, F place) const {
-    for (std::int16_t i = 1; i <= Count(); ++i) {
+    for (const std::int16_t i : Indexes(Count())) {
       auto& surface = *Get(i);
       place(surface);
       children.Append(surface.RootNode());
