@@ -312,6 +312,11 @@ TEST_F(Scatter, HoldsAsManyPointsAsItCanCount) {
   EXPECT_EQ(ErrorOf([&] { points->AddPoint(1, 1, 1, 1, 1, 1); }).number, ErrorNumber::Overflow);
   EXPECT_EQ(points->Count(), 32767);
   EXPECT_NE(Written().find(", 32766 0 0 ]"), std::string::npos);
+  chart->PointFrameCount(513);
+  EXPECT_EQ(ErrorOf([&] { Written(); }),
+            (tests::Raised{
+                ErrorNumber::Overflow,
+                "Overflow: an animation of 513 frames of 32767 points does not fit in memory"}));
 }
 
 TEST_F(Scatter, HasAsManyFramesAsItCanCount) {

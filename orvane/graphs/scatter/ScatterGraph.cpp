@@ -22,6 +22,9 @@ constexpr const char* kMovedPoints = "POINT_COLLECTION";
 /// Seconds that a TimeSensor's cycle takes by default.
 constexpr double kIdleCycle = 1;
 
+/// The most places that an animation may pass: its lists take less than a gigabyte.
+constexpr std::size_t kMostPlaces = 1 << 24;
+
 void RemoveFrom(scene::MFNode& children, const std::shared_ptr<scene::Node>& node) {
   if (std::ranges::find(children.Items(), node) != children.Items().end()) children.Remove(node);
 }
@@ -224,6 +227,13 @@ void ScatterGraph::FillInterpolator(const std::vector<std::int16_t>& frames) {
   std::size_t mostPoints = 0;
   for (const std::int16_t i : Indexes(PointFrameCount())) {
     mostPoints = std::max(mostPoints, Get1PointFrame(i)->Locations().size());
+  }
+
+  if (frames.size() * mostPoints > kMostPlaces) {
+    throw host::AutomationError(host::ErrorNumber::Overflow,
+                                "Overflow: an animation of " + std::to_string(frames.size()) +
+                                    " frames of " + std::to_string(mostPoints) +
+                                    " points does not fit in memory");
   }
 
   // All keys need as many points: a frame with fewer repeats the last point that there was. The

@@ -33,7 +33,7 @@ enum class LoopStyle : std::int32_t {
 
 /// The grid stands in the box (0, 0, 0) to (Width, Height, Depth), and points are given in its
 /// frame. With one frame the chart is still; a chart without any cannot be written in the analog
-/// style.
+/// style, nor can an animation through more than 2^24 places: that raises Overflow.
 class ORVANE_API ScatterGraph final : public Chart {
  public:
   static constexpr const char* kClassName = "ScatterGraph";
