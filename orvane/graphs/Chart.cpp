@@ -3,6 +3,8 @@
 #include "orvane/scene/Traversers.h"
 #include "orvane/scene/frmMain.h"
 
+#include <algorithm>
+
 namespace orvane {
 
 using scene::VRMLFileTraverser;
@@ -18,6 +20,14 @@ Chart::Chart()
 
 void Chart::Assemble(std::initializer_list<const ISceneRoot*> parts) {
   for (const auto* part : parts) m_root->children.Append(part->RootNode());
+}
+
+void Chart::Detach(std::initializer_list<const ISceneRoot*> parts) {
+  auto& children = m_root->children;
+  for (const auto* part : parts) {
+    const auto root = part->RootNode();
+    if (std::ranges::count(children.Items(), root) > 0) children.Remove(root);
+  }
 }
 
 void Chart::PrepareExport() {

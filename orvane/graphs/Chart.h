@@ -40,6 +40,9 @@ class ORVANE_API Chart : public host::Object, public IOrvaneGraph {
 
   /// Appends the parts' root nodes to the chart's root, in order.
   void Assemble(std::initializer_list<const ISceneRoot*> parts);
+  /// Takes those of the parts' root nodes that an earlier export put into the chart's root out of
+  /// it.
+  void Detach(std::initializer_list<const ISceneRoot*> parts);
 
   scene::RouteList& Routes() const { return *m_routes; }
 

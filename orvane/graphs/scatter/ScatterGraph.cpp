@@ -25,10 +25,6 @@ constexpr double kIdleCycle = 1;
 /// The most places that an animation may pass: its lists take less than a gigabyte.
 constexpr std::size_t kMostPlaces = 1 << 24;
 
-void RemoveFrom(scene::MFNode& children, const std::shared_ptr<scene::Node>& node) {
-  if (std::ranges::find(children.Items(), node) != children.Items().end()) children.Remove(node);
-}
-
 }  // namespace
 
 const host::TypeInfo& ScatterGraph::Type() const {
@@ -118,10 +114,10 @@ void ScatterGraph::Arrange() {
   PlaceYAxis(*m_yAxis, *m_grid);
   AlignZAxis();
   PlaceLegend(*m_legend->Root(), *m_grid);
-  RootNode()->children.Append(m_legend->Root());
+  Assemble({m_legend.get()});
   if (m_usesDrillUp) {
     PlaceDrillUp(*m_drillUp, *m_grid);
-    RootNode()->children.Append(m_drillUp->Root());
+    Assemble({m_drillUp.get()});
   }
   if (m_animationStyle == AnimationStyle::VRML_ANALOG) {
     BuildAnimation();
@@ -132,11 +128,7 @@ void ScatterGraph::Arrange() {
 }
 
 void ScatterGraph::ClearAway() {
-  auto& children = RootNode()->children;
-  for (const ISceneRoot* part :
-       std::initializer_list<const ISceneRoot*>{m_legend.get(), m_drillUp.get(), m_slider.get()}) {
-    RemoveFrom(children, part->RootNode());
-  }
+  Detach({m_legend.get(), m_drillUp.get(), m_slider.get()});
   m_contents->children.Clear();
   m_frameSwitch->choice.Clear();
   m_locationInterpolator->key.Clear();
@@ -190,7 +182,7 @@ void ScatterGraph::BuildFrameSlider() {
   auto& root = *m_slider->Root();
   root.translation.X(Single(1.1 * m_grid->Width() + m_slider->SliderLength()));
   root.rotation.SetFromAngles(-kQuarterTurn, kQuarterTurn, 0);
-  RootNode()->children.Append(m_slider->Root());
+  Assemble({m_slider.get()});
   Routes().AddRoute(m_slider->SliderNode(), "value_changed", m_frameSwitch, "set_whichChoice");
 }
 

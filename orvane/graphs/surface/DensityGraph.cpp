@@ -4,8 +4,6 @@
 #include "orvane/graphs/grid/DescribeGridGraph.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
 
-#include <algorithm>
-
 namespace orvane {
 
 const host::TypeInfo& DensityGraph::Type() const {
@@ -56,12 +54,10 @@ void DensityGraph::BuildSeries(LegendWiring& legend) {
 }
 
 void DensityGraph::BuildNavigation() {
-  auto& children = RootNode()->children;
-  const auto cone = m_drillUp->RootNode();
-  if (std::ranges::count(children.Items(), cone) > 0) children.Remove(cone);
+  Detach({m_drillUp.get()});
   if (!m_usesDrillUp) return;
   PlaceDrillUp(*m_drillUp, Grid());
-  children.Append(cone);
+  Assemble({m_drillUp.get()});
 }
 
 }  // namespace orvane
