@@ -146,13 +146,15 @@ void AddPlain(const Window& window, float s) { AddToWindow(window, s); }
 }
 #endif
 
-/// The fastest that this processor can run.
-Adder FastestAdder() {
+/// Those that this processor can run, the fastest first.
+std::vector<Adder> Adders() {
+  std::vector<Adder> adders;
 #if defined(__x86_64__)
-  if (__builtin_cpu_supports("avx512f")) return AddWithAvx512;
-  if (__builtin_cpu_supports("avx2")) return AddWithAvx2;
+  if (__builtin_cpu_supports("avx512f")) adders.push_back(AddWithAvx512);
+  if (__builtin_cpu_supports("avx2")) adders.push_back(AddWithAvx2);
 #endif
-  return AddPlain;
+  adders.push_back(AddPlain);
+  return adders;
 }
 
 /// The lattice along one axis.
@@ -199,17 +201,16 @@ class Ruler {
   std::vector<double> m_squares;
 };
 
-}  // namespace
-
-std::vector<float> ParzenMap(std::span<const scene::Vec2f> points, const LatticeAxis& xAxis,
-                             const LatticeAxis& zAxis, float sigma) {
+/// ParzenMap with one of the Adders.
+std::vector<float> MapWith(Adder adder, std::span<const scene::Vec2f> points,
+                           const LatticeAxis& xAxis, const LatticeAxis& zAxis, float sigma) {
   using Limits = std::numeric_limits<float>;
   const auto s = static_cast<float>(
       std::clamp<double>(2.0 * sigma * sigma, Limits::denorm_min(), Limits::max()));
   const float lost = LostDistance(s);
   // A window's squared distances come to less than twice `lost`, and so its exponents to more than
   // -256, unless that is no longer a float.
-  const Adder add = lost < Limits::max() / 4 ? FastestAdder() : AddAsDefined;
+  const Adder add = lost < Limits::max() / 4 ? adder : AddAsDefined;
   Ruler columns(xAxis, kBlock);
   Ruler rows(zAxis, 1);
   std::vector<float> sums(columns.Count() * rows.Count());
@@ -235,6 +236,13 @@ std::vector<float> ParzenMap(std::span<const scene::Vec2f> points, const Lattice
     densities.insert(densities.end(), start, start + static_cast<std::ptrdiff_t>(xAxis.count));
   }
   return densities;
+}
+
+}  // namespace
+
+std::vector<float> ParzenMap(std::span<const scene::Vec2f> points, const LatticeAxis& xAxis,
+                             const LatticeAxis& zAxis, float sigma) {
+  return MapWith(Adders().front(), points, xAxis, zAxis, sigma);
 }
 
 void ScaleHeights(std::span<float> heights, float low, float high) {
