@@ -40,7 +40,7 @@ class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
  protected:
   ChartLegend();
 
-  /// Adds an entry above those there are.
+  /// Adds an entry below those there are.
   void AddEntry(const std::shared_ptr<scene::Appearance>& key, const std::string& text);
   void ClearEntries();
 

@@ -15,7 +15,7 @@ class ORVANE_API ILegendInfo {
  public:
   virtual ~ILegendInfo() = default;
 
-  /// Adds an entry above those there are, and its check box.
+  /// Adds an entry below those there are, and its check box.
   virtual void AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp,
                               const std::string& newText) = 0;
   /// Removes all entries and check boxes.
