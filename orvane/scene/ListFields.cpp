@@ -98,12 +98,20 @@ void WriteItem(SceneWriter& out, Color item) { out.PutNumbers({item.red, item.gr
 
 const Help kAppend = {"Adds an entry at the end"};
 
-/// The members that all lists have in common.
+// The members that all lists have in common; the order of slots differs.
 template <class F>
-void DescribeList(Describe<F>& list) {
-  list.Method("RemoveAt", &F::RemoveAt, {"Index"}, {"Removes one entry", "", "1..Count"})
-      .Method("Clear", &F::Clear, {}, {"Removes all entries"})
-      .template Property<std::int32_t>("Count", &F::Count, {"Number of entries"});
+void DescribeRemoveAt(Describe<F>& list) {
+  list.Method("RemoveAt", &F::RemoveAt, {"Index"}, {"Removes one entry", "", "1..Count"});
+}
+
+template <class F>
+void DescribeClear(Describe<F>& list) {
+  list.Method("Clear", &F::Clear, {}, {"Removes all entries"});
+}
+
+template <class F>
+void DescribeCount(Describe<F>& list) {
+  list.template Property<std::int32_t>("Count", &F::Count, {"Number of entries"});
 }
 
 template <class F>
@@ -129,8 +137,10 @@ const TypeInfo& MFNode::Type() const {
           .Method("Insert", &MFNode::Insert, {"Index", "node"},
                   {"Puts a node at a position, moving later ones back", "", "1..Count + 1"})
           .Method("Remove", &MFNode::Remove, {"node"}, {"Removes a node from the list"})
+          .With(DescribeClear<MFNode>)
           .Indexed<std::shared_ptr<Node>>("Item", &MFNode::Item, {"One entry", "", "1..Count"})
-          .With(DescribeList<MFNode>);
+          .With(DescribeCount<MFNode>)
+          .With(DescribeRemoveAt<MFNode>);
   return type;
 }
 
@@ -139,10 +149,12 @@ const TypeInfo& MFString::Type() const {
       Describe<MFString>("A list of texts.")
           .Indexed<std::string>("Item", &MFString::Item, &MFString::Item,
                                 {"One entry", "", "1..Count"})
+          .With(DescribeRemoveAt<MFString>)
           .Method("Append", &MFString::Append, {"text"}, kAppend)
+          .With(DescribeClear<MFString>)
+          .With(DescribeCount<MFString>)
           .Method("Insert", &MFString::Insert, {"Index", "text"},
                   {"Puts a text at a position, moving later ones back", "", "1..Count + 1"})
-          .With(DescribeList<MFString>)
           .With(DescribeCopy<MFString>);
   return type;
 }
@@ -152,8 +164,10 @@ const TypeInfo& MFFloat::Type() const {
       Describe<MFFloat>("A list of numbers.")
           .Indexed<float>("Item", &MFFloat::Item, &MFFloat::Item, {"One entry", "", "1..Count"})
           .Method("Append", &MFFloat::Append, {"value"}, kAppend)
-          .With(DescribeList<MFFloat>)
+          .With(DescribeRemoveAt<MFFloat>)
           .With(DescribeCopy<MFFloat>)
+          .With(DescribeClear<MFFloat>)
+          .With(DescribeCount<MFFloat>)
           .With(DescribeItems<MFFloat>);
   return type;
 }
@@ -165,7 +179,9 @@ const TypeInfo& MFColor::Type() const {
           .Method("SetItem", &MFColor::SetItem, {"Index", "red", "green", "blue"},
                   {"Replaces one entry", "", "1..Count"})
           .Method("Append", &MFColor::Append, {"red", "green", "blue"}, kAppend)
-          .With(DescribeList<MFColor>)
+          .With(DescribeRemoveAt<MFColor>)
+          .With(DescribeClear<MFColor>)
+          .With(DescribeCount<MFColor>)
           .With(DescribeItems<MFColor>);
   return type;
 }
@@ -174,8 +190,10 @@ const TypeInfo& MFVec2f::Type() const {
   static const TypeInfo type =
       Describe<MFVec2f>("A list of points in the plane.")
           .Indexed<Vec2f>("Item", &MFVec2f::Item, {"One entry as two numbers", "", "1..Count"})
+          .With(DescribeCount<MFVec2f>)
           .Method("Append", &MFVec2f::Append, {"x", "y"}, kAppend)
-          .With(DescribeList<MFVec2f>)
+          .With(DescribeRemoveAt<MFVec2f>)
+          .With(DescribeClear<MFVec2f>)
           .With(DescribeItems<MFVec2f>);
   return type;
 }
@@ -185,7 +203,9 @@ const TypeInfo& MFVec3f::Type() const {
       Describe<MFVec3f>("A list of points in space.")
           .Indexed<Vec3f>("Item", &MFVec3f::Item, {"One entry as three numbers", "", "1..Count"})
           .Method("Append", &MFVec3f::Append, {"x", "y", "z"}, kAppend)
-          .With(DescribeList<MFVec3f>)
+          .With(DescribeRemoveAt<MFVec3f>)
+          .With(DescribeClear<MFVec3f>)
+          .With(DescribeCount<MFVec3f>)
           .With(DescribeItems<MFVec3f>);
   return type;
 }

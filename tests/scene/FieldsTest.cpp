@@ -95,6 +95,23 @@ TEST(Lists, InsertRemoveAndCopy) {
   EXPECT_EQ(list.Item(70000), 70000);
 }
 
+TEST(Lists, KeepTheOrderOfTheirSlots) {
+  const std::pair<const char*, const char*> orders[] = {
+      {"MFNode", "Append Insert Remove Clear Item Count"},
+      {"MFString", "Item RemoveAt Append Clear Count"},
+      {"MFFloat", "Item Append RemoveAt CopyTo Clear Count"},
+      {"MFColor", "Item SetItem Append RemoveAt Clear Count"},
+      {"MFVec2f", "Item Count"},
+      {"MFVec3f", "Item Append RemoveAt Clear Count"}};
+  for (const auto& [type, order] : orders) {
+    std::string names;
+    for (const auto& member : CoreFactory()->CreateField(type)->Type().Members()) {
+      names += (names.empty() ? "" : " ") + member.name;
+    }
+    EXPECT_TRUE(names.starts_with(order)) << type << ": " << names;
+  }
+}
+
 TEST(Fields, NameThemselvesInWhatTheyRefuseAndKeepTheirValues) {
   const auto node = Create<Text>();
   const auto material = Create<Material>();
