@@ -30,7 +30,7 @@ DrillDownInfo::DrillDownInfo()
   ConeColor(0xA57421);
   constexpr float kHalfTurn = 3.14159F;
   m_cones->coneRotation.SetValue(1, 0, 0, kHalfTurn);
-  LayoutCones(2, 1.0F);
+  LayOutCones(2, 1.0F);
 }
 
 void DrillDownInfo::ConeRadius(float radius) {
@@ -45,16 +45,17 @@ void DrillDownInfo::ConeHeight(float height) {
 
 void DrillDownInfo::Count(std::int16_t count) {
   host::Require(count >= 1, "Invalid count, must be greater than 0");
-  LayoutCones(count, m_spacing);
+  LayOutCones(count, m_spacing);
 }
 
 void DrillDownInfo::Spacing(float spacing) {
   host::Require(spacing > 0, "Invalid spacing, must be greater than 0");
-  LayoutCones(m_count, spacing);
+  LayOutCones(m_count, spacing);
 }
 
-void DrillDownInfo::LayoutCones(std::int16_t count, float spacing) {
-  (void)host::Single(static_cast<double>(spacing) * count);  // Overflow before anything moves.
+void DrillDownInfo::LayOutCones(std::int16_t count, float spacing) {
+  // Overflow before anything moves.
+  (void)host::Single(static_cast<double>(spacing) * (count - 1));
   m_count = count;
   m_spacing = spacing;
   m_cones->coneLocations.Clear();

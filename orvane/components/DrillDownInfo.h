@@ -54,14 +54,14 @@ class ORVANE_API DrillDownInfo final : public host::Object,
   void Count(std::int16_t count) override;
   float Spacing() const override { return m_spacing; }
   void Spacing(float spacing) override;
+  /// Sets `count` >= 1 and `spacing` > 0 at once: all cones move or none.
+  void LayOutCones(std::int16_t count, float spacing);
 
   std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
   /// The same node; its chart places it.
   const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
 
  private:
-  void LayoutCones(std::int16_t count, float spacing);
-
   std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::ConeCollection> m_cones;
   std::shared_ptr<scene::Router> m_router;

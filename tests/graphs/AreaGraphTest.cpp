@@ -126,6 +126,12 @@ TEST_F(Area, StandsConesAlongTheEdges) {
   EXPECT_FLOAT_EQ(z->Root()->translation.Z(), 0.5F);
   EXPECT_FLOAT_EQ(z->Root()->rotation.Angle(), -1.5708F);
   EXPECT_FLOAT_EQ(navigation->DrillUpProps()->Root()->translation.Y(), 0.55F);
+  for (const auto& [cells, width] : {std::pair<std::int16_t, float>{1, 1e38F}, {10, 8}}) {
+    chart->GridProps()->Width(width);
+    chart->GridProps()->XAxisCellCount(cells);
+    Written();
+  }
+  EXPECT_FLOAT_EQ(x->Spacing(), 0.8F) << "however much smaller the cells have become";
 }
 
 TEST_F(Area, GivesPopupsTheHeightsAndSizesOfTheSeries) {

@@ -45,8 +45,7 @@ void CategoryGraph::BuildZAxisDrillDown() {
 
 void CategoryGraph::WireDrillDown(DrillDownInfo& cones, std::int16_t count, float spacing,
                                   const std::string& axis) {
-  cones.Count(count);
-  cones.Spacing(spacing);
+  cones.LayOutCones(count, spacing);
   cones.Root()->translation.Y(ConeLift(cones.ConeHeight()));
   const auto collection = cones.ConeCollectionNode();
   const auto router = cones.RouterNode();
