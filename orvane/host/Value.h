@@ -43,7 +43,7 @@ class ORVANE_API Value {
   /// The object held. Raises TypeMismatch when the value is none.
   const std::shared_ptr<Object>& AsObject() const;
 
-  /// For people: `Single 2.5`, `String "abc"`, `an object of class GridInfo`.
+  /// For people: `number 2.5`, `String "abc"`, `an object of class GridInfo`.
   std::string Describe() const;
 
   friend bool operator==(const Value&, const Value&) = default;
