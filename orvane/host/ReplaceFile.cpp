@@ -30,6 +30,8 @@ std::error_code ReplaceFile(fs::path file, std::string_view text) {
     if (!fs::is_regular_file(status)) return Put(file, text);
     file = fs::canonical(file, error);
     if (error) return error;
+  } else if (fs::is_symlink(file, error)) {
+    return Put(file, text);  // The file that it leads to is not there yet.
   }
   fs::path neighbour = file;
   neighbour += "." + std::to_string(std::random_device()()) + ".tmp";

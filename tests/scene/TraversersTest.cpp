@@ -38,6 +38,9 @@ TEST_F(FileTraverser, ReplacesTheFileAlsoThroughALinkAndLeavesNothingElse) {
   EXPECT_TRUE(Write("link.wrl", Create<Transform>()));
   EXPECT_TRUE(fs::is_symlink(m_folder / "link.wrl"));
   EXPECT_EQ(Read("Größe.wrl"), "#VRML V2.0 utf8\nTransform { }\n");
+  fs::remove(m_folder / "Größe.wrl");
+  EXPECT_TRUE(Write("link.wrl", Create<Group>()));
+  EXPECT_EQ(Read("Größe.wrl"), "#VRML V2.0 utf8\nGroup { }\n") << "where the link leads";
 }
 
 TEST_F(FileTraverser, LeavesTheOldFileWhenItFails) {
