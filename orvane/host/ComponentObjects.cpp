@@ -105,7 +105,7 @@ orvane_value ToResult(const Value& value) {
     result.count = string->size();
     result.as.string = copy;
   } else if (const auto* numbers = value.If<Value::Numbers>()) {
-    auto* const copy = new double[numbers->size()];
+    auto* const copy = numbers->empty() ? nullptr : new double[numbers->size()];
     std::ranges::copy(*numbers, copy);
     result.type = ORVANE_NUMBERS;
     result.count = numbers->size();

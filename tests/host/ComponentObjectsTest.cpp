@@ -75,6 +75,7 @@ TEST_F(Component, PassesRowsOfNumbers) {
   EXPECT_EQ(m_result.type, ORVANE_EMPTY);
   EXPECT_EQ(Call(0, {ORVANE_NUMBERS, 0, {}}), ORVANE_OK);
   EXPECT_EQ(m_result.count, 0U);
+  EXPECT_EQ(m_result.as.numbers, nullptr);
   m_object->calls->ClearValue(&m_result);
   EXPECT_EQ(Call(0, {ORVANE_NUMBERS, 3, {}}), ORVANE_ERROR_POINTER);
 }
