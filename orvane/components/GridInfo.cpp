@@ -49,7 +49,7 @@ void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat&
   spacing.Value(cell);
   try {
     changed(count);
-  } catch (const host::AutomationError&) {
+  } catch (...) {
     lineCount.Value(oldLines);
     spacing.Value(oldCell);
     throw;

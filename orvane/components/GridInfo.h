@@ -55,7 +55,7 @@ class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
   void Transparency(float value);
 
   /// Raised after the count and its spacing have changed, with the new count. When the chart
-  /// rejects the count by raising an error, the grid goes back to the old one.
+  /// cannot follow and raises an error, the grid goes back to the old one.
   host::Event<std::int16_t> XCellCountChanged;
   host::Event<std::int16_t> YCellCountChanged;
   host::Event<std::int16_t> ZCellCountChanged;

@@ -12,6 +12,7 @@
 #include "orvane/components/ViewpointCollection.h"
 
 #include <functional>
+#include <new>
 
 #include <gtest/gtest.h>
 
@@ -88,6 +89,9 @@ TEST(GridInfo, KeepsItsExtentWhenTheCellCountChanges) {
   EXPECT_EQ(grid.XAxisCellCount(), 32766);
   EXPECT_NEAR(grid.Width(), 10, 1e-5);
   EXPECT_EQ(heard, (std::vector<int>{4, 32766}));
+  const auto full = grid.XCellCountChanged.Connect([](int) { throw std::bad_alloc(); });
+  EXPECT_THROW(grid.XAxisCellCount(5), std::bad_alloc);
+  EXPECT_EQ(grid.XAxisCellCount(), 32766) << "what a handler cannot follow is taken back";
 }
 
 TEST(DrillDownInfo, LaysItsConesAlongX) {
