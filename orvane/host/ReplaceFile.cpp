@@ -34,7 +34,7 @@ std::error_code ReplaceFile(fs::path file, std::string_view text) {
     return Put(file, text);  // The file that it leads to is not there yet.
   }
   fs::path neighbour = file;
-  neighbour += "." + std::to_string(std::random_device()()) + ".tmp";
+  neighbour.replace_filename("." + std::to_string(std::random_device()()) + ".tmp");
   error = Put(neighbour, text);
   if (!error && fs::exists(status)) fs::permissions(neighbour, status.permissions(), error);
   if (!error) fs::rename(neighbour, file, error);

@@ -43,6 +43,10 @@ TEST_F(FileTraverser, ReplacesTheFileAlsoThroughALinkAndLeavesNothingElse) {
   EXPECT_EQ(Read("Größe.wrl"), "#VRML V2.0 utf8\nGroup { }\n") << "where the link leads";
 }
 
+TEST_F(FileTraverser, TakesANameAsLongAsFilesMayHave) {
+  EXPECT_TRUE(Write(std::string(255, 'n'), Create<Group>()));
+}
+
 TEST_F(FileTraverser, LeavesTheOldFileWhenItFails) {
   EXPECT_FALSE(Write("nowhere/out.wrl", Create<Group>()));
   EXPECT_FALSE(Write("", Create<Group>()));
