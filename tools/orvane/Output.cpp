@@ -34,9 +34,11 @@ class Neighbour {
     if (fs::exists(status)) {
       if (!fs::is_regular_file(status)) return;
       m_target = fs::canonical(file.path);
+    } else if (fs::is_symlink(file.path)) {
+      return;  // To a file that is not there yet.
     }
     m_path = m_target;
-    m_path += "." + std::to_string(std::random_device()()) + ".tmp";
+    m_path.replace_filename("." + std::to_string(std::random_device()()) + ".tmp");
     Put(m_path, file.text, file.path);
     if (fs::exists(status)) fs::permissions(m_path, status.permissions());
   }
