@@ -264,6 +264,10 @@ void MFString::Insert(std::int32_t index, const std::string& text) {
   m_items.insert(m_items.begin() + static_cast<std::ptrdiff_t>(place), text);
 }
 
+void MFFloat::Check(const List& items) const {
+  for (const float item : items) (void)Checked(item, m_range);
+}
+
 Color MFColor::CheckedColor(float red, float green, float blue) const {
   for (const float component : {red, green, blue}) {
     if (!(component >= 0 && component <= 1)) {
@@ -273,23 +277,24 @@ Color MFColor::CheckedColor(float red, float green, float blue) const {
   return {red, green, blue};
 }
 
-void MFColor::Items(List items) {
+void MFColor::Check(const List& items) const {
   for (const Color& item : items) (void)CheckedColor(item.red, item.green, item.blue);
-  m_items = std::move(items);
 }
 
-void MFVec2f::Items(List items) {
+void MFVec2f::Check(const List& items) const {
   for (const Vec2f& item : items) {
     for (const float component : {item.x, item.y}) (void)Checked(component);
   }
-  m_items = std::move(items);
 }
 
-void MFVec3f::Items(List items) {
+void MFVec3f::Check(const List& items) const {
   for (const Vec3f& item : items) {
     for (const float component : {item.x, item.y, item.z}) (void)Checked(component);
   }
-  m_items = std::move(items);
+}
+
+void MFNode::Check(const List& items) const {
+  for (const auto& item : items) (void)CheckedNode(item);
 }
 
 void MFNode::Append(const std::shared_ptr<Node>& node) { m_items.push_back(CheckedNode(node)); }

@@ -27,15 +27,19 @@ class ORVANE_API ListField : public Field {
     m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(Position(index)));
   }
   void Clear() { m_items.clear(); }
-  /// Replaces the entries of `list` with a copy of these.
+  /// Replaces the entries of `list` with a copy of these, or none when it may not hold one of them.
   void CopyTo(const std::shared_ptr<F>& list) const {
     if (list == nullptr) RaiseNoList();
     CopyTo(*list);
   }
-  void CopyTo(F& list) const { list.m_items = m_items; }
+  void CopyTo(F& list) const { list.Items(m_items); }
 
-  /// All entries at once, for C++.
   const List& Items() const { return m_items; }
+  /// Replaces all entries, or none when one of them raises.
+  void Items(List items) {
+    Check(items);
+    m_items = std::move(items);
+  }
 
   bool IsDefault() const override { return m_items == m_default; }
   void Write(SceneWriter& out) const override;
@@ -55,6 +59,8 @@ class ORVANE_API ListField : public Field {
   List m_items;
 
  private:
+  /// Raises for an entry that the field may not hold.
+  virtual void Check(const List& /*items*/) const {}
   [[noreturn]] void RaiseIndex(std::int32_t index, std::int32_t count) const;
   [[noreturn]] void RaiseNoList() const;
 
@@ -78,9 +84,6 @@ class ORVANE_API MFString final : public ListField<MFString, std::string> {
   using ListField::Item;
   void Item(std::int32_t index, const std::string& text) { m_items[Position(index)] = text; }
   void Append(const std::string& text) { m_items.push_back(text); }
-  using ListField::Items;
-  /// Replaces all entries.
-  void Items(List items) { m_items = std::move(items); }
   /// Puts `text` at position `index`, 1..Count + 1, moving later entries back.
   void Insert(std::int32_t index, const std::string& text);
 };
@@ -98,14 +101,10 @@ class ORVANE_API MFFloat final : public ListField<MFFloat, float> {
   /// Numbers are finite and in the node's range; NotFinite or OutOfRange otherwise.
   void Item(std::int32_t index, float value) { m_items[Position(index)] = Checked(value, m_range); }
   void Append(float value) { m_items.push_back(Checked(value, m_range)); }
-  using ListField::Items;
-  /// Replaces all entries, or none when one of them raises.
-  void Items(List items) {
-    for (const float value : items) (void)Checked(value, m_range);
-    m_items = std::move(items);
-  }
 
  private:
+  void Check(const List& items) const override;
+
   Interval m_range;
 };
 
@@ -126,11 +125,9 @@ class ORVANE_API MFColor final : public ListField<MFColor, Color> {
   void Append(float red, float green, float blue) {
     m_items.push_back(CheckedColor(red, green, blue));
   }
-  using ListField::Items;
-  /// Replaces all entries, or none when one of them raises.
-  void Items(List items);
 
  private:
+  void Check(const List& items) const override;
   Color CheckedColor(float red, float green, float blue) const;
 };
 
@@ -146,9 +143,9 @@ class ORVANE_API MFVec2f final : public ListField<MFVec2f, Vec2f> {
 
   /// Numbers are finite; NotFinite otherwise.
   void Append(float x, float y) { m_items.push_back({Checked(x), Checked(y)}); }
-  using ListField::Items;
-  /// Replaces all entries, or none when one of them raises.
-  void Items(List items);
+
+ private:
+  void Check(const List& items) const override;
 };
 
 class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
@@ -165,9 +162,9 @@ class ORVANE_API MFVec3f final : public ListField<MFVec3f, Vec3f> {
   void Append(float x, float y, float z) {
     m_items.push_back({Checked(x), Checked(y), Checked(z)});
   }
-  using ListField::Items;
-  /// Replaces all entries, or none when one of them raises.
-  void Items(List items);
+
+ private:
+  void Check(const List& items) const override;
 };
 
 class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> {
@@ -189,6 +186,7 @@ class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> 
   void VisitNodes(const std::function<void(const Node&)>& visit) const override;
 
  private:
+  void Check(const List& items) const override;
   const std::shared_ptr<Node>& CheckedNode(const std::shared_ptr<Node>& node) const;
 };
 

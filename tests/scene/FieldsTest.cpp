@@ -116,6 +116,8 @@ TEST(Fields, NameThemselvesInWhatTheyRefuseAndKeepTheirValues) {
   const auto node = Create<Text>();
   const auto material = Create<Material>();
   const auto group = Create<Group>();
+  MFFloat negative;
+  negative.Append(-1);
   node->string.Append("one");
   node->length.Append(4);
   using enum ErrorNumber;
@@ -138,6 +140,8 @@ TEST(Fields, NameThemselvesInWhatTheyRefuseAndKeepTheirValues) {
       {[&] { node->length.Item(1, kInfinity); }, NotFinite,
        "Text.length takes finite numbers only"},
       {[&] { node->length.Item(1, -1); }, OutOfRange,
+       "Text.length takes numbers in the range [0..inf], got -1"},
+      {[&] { negative.CopyTo(node->length); }, OutOfRange,
        "Text.length takes numbers in the range [0..inf], got -1"},
       {[&] { node->maxExtent.Value(-kInfinity); }, NotFinite,
        "Text.maxExtent takes finite numbers only"},
