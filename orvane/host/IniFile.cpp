@@ -2,7 +2,7 @@
 
 #include "orvane/host/AutomationError.h"
 #include "orvane/host/FolderLock.h"
-#include "orvane/host/ReplaceFile.h"
+#include "orvane/host/FileReplacement.h"
 
 #include <cstdlib>
 #include <fstream>
