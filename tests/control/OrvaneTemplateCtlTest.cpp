@@ -100,7 +100,9 @@ TEST_F(ControlTest, KeepsItsPathInThePropertyBag) {
   host::Container form;
   const auto control = std::make_shared<OrvaneTemplateCtl>();
   form.PlaceNew(control);
+  EXPECT_TRUE(form.NeedsSaving(control));
   EXPECT_EQ(form.Save(control).Text(), "") << "the default is not kept";
+  EXPECT_FALSE(form.NeedsSaving(control));
   control->RelativeProtoPath(R"(..\protos\)");
   const auto bag = form.Save(control);
   EXPECT_EQ(bag.ReadProperty("ProtoPath", ""), R"(..\protos\)");
@@ -111,6 +113,24 @@ TEST_F(ControlTest, KeepsItsPathInThePropertyBag) {
   EXPECT_EQ(loaded->RelativeProtoPath(), R"(..\protos\)") << "what was saved, not the settings";
   form.PlaceSaved(std::make_shared<OrvaneTemplateCtl>(), host::PropertyBag());
   EXPECT_EQ(control->RelativeProtoPath(), "") << "the last control speaks for the process";
+  loaded->RelativeProtoPath("x/");
+  EXPECT_TRUE(form.NeedsSaving(loaded));
+  EXPECT_FALSE(form.NeedsSaving(control)) << "each control for itself";
+}
+
+TEST_F(ControlTest, IsKnownToItsOwnContainerAlone) {
+  host::Container form;
+  const auto control = std::make_shared<OrvaneTemplateCtl>();
+  const std::string unknown = "The control is not placed in this container";
+  const std::string twice = "The control is placed in this container already";
+  tests::ExpectErrors(
+      {{[&] { form.Save(control); }, unknown},
+       {[&] { form.ShowPropertyPage({control}); }, unknown},
+       {[&] { form.ShowPropertyPage({}); }, "Select a control to show its property page"}});
+  form.PlaceSaved(control, host::PropertyBag("ProtoPath=old/"));
+  tests::ExpectErrors({{[&] { form.PlaceSaved(control, host::PropertyBag()); }, twice},
+                       {[&] { form.PlaceNew(control); }, twice}});
+  EXPECT_EQ(control->RelativeProtoPath(), "old/");
 }
 
 TEST_F(ControlTest, StaysAtItsSizeWithItsPicture) {
