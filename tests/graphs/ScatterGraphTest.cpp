@@ -68,21 +68,16 @@ TEST_F(Scatter, KeepsTheFramesThatStayAndTheirGap) {
   const auto second = chart->Get1PointFrame(2);
   chart->PointFrameCount(2);
   chart->FrameTimeGap(2.5);
-  const std::string gap = "The frame time gap must take at least 1 second";
   const std::string index = "Invalid index into the list";
-  ExpectErrors({{[&] { chart->FrameTimeGap(0.999); }, gap},
-                {[&] { chart->FrameTimeGap(-1); }, gap},
-                {[&] { chart->FrameTimeGap(kNaN); }, gap},
-                {[&] { (void)chart->Get1PointFrame(0); }, index},
-                {[&] { (void)chart->Get1PointFrame(3); }, index},
-                {[&] { chart->PointFrameCount(0); },
-                 "There must be at least one point frame in the scene"}});
-  EXPECT_EQ(ErrorOf([&] { chart->PointFrameCount(-1); }).number, ErrorNumber::Component);
+  ExpectErrors(
+      {{[&] { chart->FrameTimeGap(kNaN); }, "The frame time gap must take at least 1 second"},
+       {[&] { (void)chart->Get1PointFrame(0); }, index},
+       {[&] { (void)chart->Get1PointFrame(3); }, index},
+       {[&] { chart->PointFrameCount(0); },
+        "There must be at least one point frame in the scene"}});
   EXPECT_EQ(chart->PointFrameCount(), 2);
   EXPECT_EQ(chart->Get1PointFrame(2), second);
   EXPECT_EQ(chart->FrameTimeGap(), 2.5);
-  chart->FrameTimeGap(1);
-  EXPECT_EQ(chart->FrameTimeGap(), 1);
 }
 
 TEST_F(Scatter, PassesItsFramesAsItsLoopStyleSays) {
@@ -333,8 +328,6 @@ TEST_F(Scatter, HasALegendWithoutCheckBoxes) {
   legend->AddLegendEntry(0x0000FF, "first");
   legend->AddLegendEntry(0x00FF00, "second");
   EXPECT_EQ(ErrorOf([&] { legend->AddLegendEntry(-1, "none"); }).number, ErrorNumber::OutOfRange);
-  ExpectErrors(
-      {{[&] { legend->TextHeight(0); }, "Invalid legend text height, must be greater than 0"}});
   const std::string text = Written();
   EXPECT_NE(text.find("entryTexts [ \"second\", \"first\" ]"), std::string::npos);
   EXPECT_LT(text.find("diffuseColor 0 1 0"), text.find("diffuseColor 1 0 0"));
@@ -387,13 +380,6 @@ TEST(Slider, LaysOutLabelsAndDirection) {
     EXPECT_EQ(part(1)->rotation.X(), isTurned ? 1 : 0);
     EXPECT_EQ(part(1)->rotation.Angle(), isTurned ? 3.14159F : 0);
   }
-  ExpectErrors(
-      {{[&] { slider.LabelHeight(0); }, "Invalid label height, must be greater than 0"},
-       {[&] { slider.SliderLength(-1); }, "Invalid slider length, must be greater than 0"},
-       {[&] { slider.SliderRadius(0); }, "Invalid slider radius, must be greater than 0"}});
-  EXPECT_EQ(slider.LabelHeight(), 2);
-  EXPECT_EQ(slider.SliderLength(), 4);
-  EXPECT_EQ(slider.SliderRadius(), 0.2F);
 }
 
 }  // namespace

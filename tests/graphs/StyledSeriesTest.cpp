@@ -10,8 +10,6 @@
 namespace orvane {
 namespace {
 
-using tests::ExpectErrors;
-
 template <class S>
 class StyledSeriesOf : public testing::Test {
  protected:
@@ -54,27 +52,13 @@ TYPED_TEST(StyledSeriesOf, KeepsHeightsAndSizesThroughAStyleChange) {
   EXPECT_EQ(series.Height().Items(), (std::vector<float>{1, -2, 3}));
 }
 
-TYPED_TEST(StyledSeriesOf, RejectsSizesThatAreNotAboveZero) {
+TYPED_TEST(StyledSeriesOf, RejectsADepthThatLeavesItsPopupsNoSize) {
   auto& series = *this->series;
   series.Depth(0.5F);
-  ExpectErrors({{[&] { series.BevelRadius(0); }, "Invalid bevel radius, must be greater than 0"},
-                {[&] { series.Depth(-1); }, "Invalid series depth, must be greater than 0"},
-                {[&] { series.Depth(1e-45F); }, "Invalid radius, must be greater than 0"}});
+  EXPECT_EQ(tests::ErrorOf([&] { series.Depth(1e-45F); }),
+            tests::ComponentError("Invalid radius, must be greater than 0"));
   EXPECT_EQ(series.Depth(), 0.5F);
   EXPECT_FLOAT_EQ(series.PopupProps()->Depth(), 0.525F);
-}
-
-TEST(StyledSeries, HaveASizeOfTheirOwn) {
-  ColumnSeriesInfo column;
-  column.Width(0.25F);
-  RibbonSeriesInfo ribbon;
-  ribbon.Thickness(0.25F);
-  ExpectErrors(
-      {{[&] { column.Width(0); }, "Invalid series width, must be greater than 0"},
-       {[&] { ribbon.Thickness(0); }, "Invalid series thickness, must be greater than 0"}});
-  EXPECT_EQ(column.Width(), 0.25F);
-  EXPECT_EQ(ribbon.Thickness(), 0.25F);
-  EXPECT_EQ(ribbon.Type().Find("Width"), -1);
 }
 
 }  // namespace
