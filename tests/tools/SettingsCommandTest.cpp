@@ -1,9 +1,8 @@
 /// The user's settings at the command line: shown, set with their checks, and honoured by worlds.
-#include "CommandLine.h"
+#include "support/Program.h"
 #include "support/ScratchFolder.h"
 
 #include <algorithm>
-#include <sstream>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -29,13 +28,9 @@ class SettingsCommand : public testing::Test {
 
   /// Standard output, or the message where the command fails.
   std::string Orvane(const std::vector<std::string>& arguments, int status = 0) {
-    std::vector<const char*> argv = {"orvane"};
-    for (const auto& argument : arguments) argv.push_back(argument.c_str());
-    std::ostringstream out;
-    std::ostringstream err;
-    EXPECT_EQ(RunCommandLine(static_cast<int>(argv.size()), argv.data(), out, err), status)
-        << err.str();
-    return out.str() + err.str();
+    const auto outcome = tests::RunOrvane(arguments);
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    return outcome.out + outcome.err;
   }
   /// What a world written to `file`, by chart and by build, puts in front of "VR_GRAPH.wrl".
   std::string PrefixOf(const std::string& file, const std::vector<std::string>& more = {}) {
