@@ -19,8 +19,7 @@ inline Outcome RunOrvane(const std::vector<std::string>& arguments) {
   for (const auto& argument : arguments) argv.push_back(argument.c_str());
   std::ostringstream out;
   std::ostringstream err;
-  const int status =
-      tool::RunCommandLine(static_cast<int>(argv.size()), argv.data(), out, err);
+  const int status = tool::RunCommandLine(static_cast<int>(argv.size()), argv.data(), out, err);
   return {status, out.str(), err.str()};
 }
 
