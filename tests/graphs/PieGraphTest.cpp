@@ -5,8 +5,6 @@
 
 #include "orvane/graphs/pie/PieGraph.h"
 
-#include <functional>
-
 namespace orvane {
 namespace {
 
@@ -251,36 +249,6 @@ TEST_F(Pie, ShowsTextsAsItsStyleSays) {
     EXPECT_EQ(toggle->contentsExist.Value(), test.isShown);
   }
   EXPECT_EQ(Written().find("SLICE_TEXT_TOGGLE_"), std::string::npos);
-}
-
-TEST_F(Pie, IsWrittenAsIfNothingHadBeenSwitchedBetween) {
-  chart->SliceCount(3);
-  bool usesToggles = false;
-  const auto legend = chart->LegendProps();
-  using enum SliceTextVisibility;
-  using enum SliceStyle;
-  const std::pair<const char*, std::function<void(bool)>> cases[] = {
-      {"texts", [&](bool on) { chart->SliceTextDisplayStyle(on ? SHOW_ALWAYS : SHOW_ON_TOUCH); }},
-      {"toggles", [&](bool on) { legend->UseSeriesToggle(on != usesToggles); }},
-      {"legend", [&](bool on) { Slice(2)->ShowInLegend(!on); }},
-      {"styles", [&](bool on) { Slice(2)->Style(on ? RING_SLICE : OUTLINED_SLICE); }},
-      {"count", [&](bool on) { chart->SliceCount(on ? 5 : 3); }},
-      {"share", [&](bool on) { Slice(1)->Percentage(on ? 0.7F : 0.2F); }},
-      {"drill-down", [&](bool on) { Slice(3)->UseDrillDown(on); }},
-  };
-  for (const bool use : {false, true}) {
-    usesToggles = use;
-    legend->UseSeriesToggle(use);
-    for (const auto& [name, change] : cases) {
-      const std::string before = Written();
-      change(true);
-      const std::string between = Written();
-      EXPECT_NE(between, before) << name;
-      EXPECT_EQ(between, Written()) << name;
-      change(false);
-      EXPECT_EQ(Written(), before) << name << (use ? " with toggles" : "");
-    }
-  }
 }
 
 }  // namespace
