@@ -1,10 +1,9 @@
-/// The scatter chart: points, frames, both kinds of animation, and exports that never differ.
+/// The scatter chart: points, frames, and both kinds of animation.
 
 #include "support/Charts.h"
 
 #include "orvane/graphs/scatter/ScatterGraph.h"
 
-#include <functional>
 #include <limits>
 
 namespace orvane {
@@ -176,39 +175,6 @@ TEST_F(Scatter, LetsTheSliderChooseAFrame) {
   EXPECT_FLOAT_EQ(slider->Root()->translation.X(), 12.8F);
   const auto* choices = Node<scene::Switch>("FRAME_SWITCH");
   EXPECT_EQ(choices->choice.Item(3), chart->Get1PointFrame(3)->RootNode());
-}
-
-TEST_F(Scatter, IsWrittenAlikeWhateverWasSwitchedBetween) {
-  using enum AnimationStyle;
-  const std::pair<const char*, std::function<void(bool)>> switches[] = {
-      {"drill-up", [&](bool on) { chart->UseDrillUp(on); }},
-      {"discrete", [&](bool on) { chart->PointAnimationStyle(on ? VRML_DISCRETE : VRML_ANALOG); }},
-      {"analog", [&](bool on) { chart->PointAnimationStyle(on ? VRML_ANALOG : VRML_DISCRETE); }},
-      {"one frame", [&](bool on) { Fill(on ? 1 : 3); }},
-      {"more frames", [&](bool on) { Fill(on ? 7 : 3); }},
-      {"more frames than one", [&](bool on) { Fill(on ? 4 : 1); }},
-      {"billboard", [&](bool on) { chart->LegendProps()->IsBillboarded(on); }},
-      {"loop",
-       [&](bool on) {
-         chart->AnimationLoopStyle(on ? LoopStyle::VRML_LOOP_CONTINUOUS : LoopStyle::VRML_NO_LOOP);
-       }},
-  };
-  chart->LegendProps()->AddLegendEntry(0xFF, "red");
-  for (const auto& [name, turn] : switches) {
-    for (const auto style : {VRML_ANALOG, VRML_DISCRETE}) {
-      SCOPED_TRACE(name + std::to_string(static_cast<int>(style)));
-      Fill(3);
-      chart->PointAnimationStyle(style);
-      turn(false);
-      const std::string before = Written();
-      EXPECT_EQ(Written(), before);
-      turn(true);
-      const std::string between = Written();
-      EXPECT_EQ(Written(), between);
-      turn(false);
-      EXPECT_EQ(Written(), before);
-    }
-  }
 }
 
 TEST_F(Scatter, PlacesItsPartsByTheGrid) {
