@@ -168,14 +168,15 @@ TEST(ParsedWorlds, HoldEveryPartThatIsSwitchedOn) {
   }
 }
 
-/// Another value than `old`, which the property takes as well.
-Value OtherThan(const Value& old) {
+/// Another value than `old`, which `member` takes as well.
+Value OtherThan(const Value& old, const host::Member& member) {
   if (const auto* truth = old.If<bool>()) return !*truth;
   if (old.If<std::string>() != nullptr) return "other";
   if (const auto* number = old.If<float>()) return *number == 0 ? 0.5 : *number / 2;
   if (const auto* number = old.If<double>()) return *number * 2;
-  const std::int32_t whole = *old.If<std::int32_t>();  // A colour, a count or an enumerator.
-  return whole > 2 ? whole / 2 : whole == 0 ? 1 : 2 * whole;
+  const std::int32_t whole = *old.If<std::int32_t>();
+  if (member.type.enumeration != nullptr || whole == 0) return whole == 0 ? 1 : 0;
+  return whole > 2 ? whole / 2 : 2 * whole;  // A colour or a count.
 }
 
 TEST(Charts, AreWrittenAsBeforeOnceALetIsTakenBack) {
@@ -193,7 +194,7 @@ TEST(Charts, AreWrittenAsBeforeOnceALetIsTakenBack) {
         const Value old = object.Get(member.name);
         object.Let(member.name, old);
         const std::string before = Written(*chart);
-        object.Let(member.name, OtherThan(old));
+        object.Let(member.name, OtherThan(old, member));
         const std::string between = Written(*chart);
         EXPECT_EQ(Written(*chart), between);
         object.Let(member.name, old);
