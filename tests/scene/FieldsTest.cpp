@@ -184,6 +184,7 @@ TEST(LateBoundFields, AreReachedThroughTheirNodeAndKeepItAlive) {
 TEST(LateBoundLists, TakeAllEntriesAtOnceOrNone) {
   using host::Value;
   using Row = Value::Numbers;
+  using enum ErrorNumber;
   const auto view = Create<Background>();
   const auto text = Create<Text>();
   const auto points = CoreFactory()->CreateField("MFVec3f");
@@ -195,35 +196,17 @@ TEST(LateBoundLists, TakeAllEntriesAtOnceOrNone) {
     ErrorNumber number;
     const char* message;
   } cases[] = {
-      {text->length,
-       {1, 2, 3.5},
-       Row{1, 2, -1},
-       ErrorNumber::OutOfRange,
+      {text->length, Row({1, 2, 3.5}), Row({1, 2, -1}), OutOfRange,
        "Text.length takes numbers in the range [0..inf], got -1"},
-      {text->length,
-       {},
-       Row{1, 1e39},
-       ErrorNumber::Overflow,
+      {text->length, Row(), Row({1, 1e39}), Overflow,
        "Overflow: MFFloat.Items: 1e+39 does not fit a 32-bit float"},
-      {text->length,
-       {4},
-       5,
-       ErrorNumber::TypeMismatch,
+      {text->length, Row({4.0}), 5, TypeMismatch,
        "Type mismatch: MFFloat.Items expects a row of numbers, got number 5"},
-      {view->skyColor,
-       {0, 0.5, 1, 1, 0, 0},
-       Row{1, 1, 1, 0, 0, 1.5},
-       ErrorNumber::OutOfRange,
+      {view->skyColor, Row({0, 0.5, 1, 1, 0, 0}), Row({1, 1, 1, 0, 0, 1.5}), OutOfRange,
        "Background.skyColor takes components in the range [0..1]"},
-      {*points,
-       {1, 2, 3, 4, 5, 6},
-       Row{1, 2, 3, 4},
-       ErrorNumber::TypeMismatch,
+      {*points, Row({1, 2, 3, 4, 5, 6}), Row({1, 2, 3, 4}), TypeMismatch,
        "Type mismatch: MFVec3f.Items expects rows of 3 numbers, got a row of 4 number(s)"},
-      {*plane,
-       {1, 2, 3, 4},
-       Row{1, 2, 3, kNan},
-       ErrorNumber::Overflow,
+      {*plane, Row({1, 2, 3, 4}), Row({1, 2, 3, kNan}), Overflow,
        "Overflow: MFVec2f.Items: nan does not fit a 32-bit float"},
   };
   for (const auto& test : cases) {

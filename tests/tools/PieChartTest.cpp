@@ -1,7 +1,7 @@
 /// Pies from tables: shares that close the ring, heights, labels that keep clear of each other.
 #include "PieChart.h"
 #include "Texts.h"
-#include "support/Complaints.h"
+#include "support/Tables.h"
 
 #include <cmath>
 #include <numbers>

@@ -1,7 +1,7 @@
 /// Tables of points: which column is what, frames and groups in order, complaints by line and
 /// column.
 #include "PointTable.h"
-#include "support/Complaints.h"
+#include "support/Tables.h"
 
 #include <gtest/gtest.h>
 

@@ -2,20 +2,15 @@
 /// other.
 #include "GridLayout.h"
 #include "SeriesCharts.h"
+#include "support/Tables.h"
 
 #include <gtest/gtest.h>
 
 namespace orvane::tool {
 namespace {
 
-Table TableOf(const std::string& text) {
-  return ReadTable(Source("t.csv", text), MissingCell::Error);
-}
-
-void ExpectNear(const std::vector<float>& actual, const std::vector<float>& expected) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], 1e-5);
-}
+using tests::ExpectNear;
+using tests::TableOf;
 
 TEST(AreaChart, PutsValuesLabelsAndPopupsInTheirPlaces) {
   const Table table = TableOf("Year,Oil,\"Sun, wind\"\n2001,90,10\n2002,80.50,40\n2003,0,60\n");

@@ -1,6 +1,6 @@
 /// Surface and combination charts from grids: where the numbers end up, and which grids fit.
 #include "SurfaceCharts.h"
-#include "support/Complaints.h"
+#include "support/Tables.h"
 
 #include <algorithm>
 #include <functional>
@@ -10,14 +10,8 @@
 namespace orvane::tool {
 namespace {
 
-Table TableOf(const std::string& text, const std::string& file = "t.csv") {
-  return ReadTable(Source(file, text), MissingCell::Error);
-}
-
-void ExpectNear(const std::vector<float>& actual, const std::vector<float>& expected) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], 1e-5) << i;
-}
+using tests::ExpectNear;
+using tests::TableOf;
 
 TEST(SurfaceChart, LiesAsItsGridLiesOnThePage) {
   ChartOptions options;

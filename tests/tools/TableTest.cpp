@@ -1,6 +1,6 @@
 /// Tables: what reads, and every complaint with its line and column.
 #include "Table.h"
-#include "support/Complaints.h"
+#include "support/Tables.h"
 
 #include <string>
 
