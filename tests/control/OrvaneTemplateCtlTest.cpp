@@ -159,11 +159,6 @@ TEST_F(ControlTest, HandsOutOneFactoryAndManyScalers) {
   EXPECT_NE(scaler, control->CreateScaler());
   scaler->ToMax(5);
   EXPECT_EQ(control->CreateScaler()->ToMax(), 1);
-
-  const auto& type = control->Type();
-  const char* const slots[] = {"CreateFactory", "CreateScaler", "RelativeProtoPath"};
-  ASSERT_EQ(type.Members().size(), std::size(slots));
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(type.IdOf(slots[i]), i);
 }
 
 TEST_F(ControlTest, MakesFreshChartsOfEveryKind) {

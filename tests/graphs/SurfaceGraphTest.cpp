@@ -94,14 +94,6 @@ TEST(SurfaceInfo, TakesLargeLatticesAndRefusesThoseBeyondMemory) {
   EXPECT_EQ(HeightsOf(surface), std::vector<float>(2 * 32767));
 }
 
-TEST(SurfacePopups, AreInTheSceneOnceWhileInUse) {
-  SurfacePopupInfo popups;
-  for (const bool use : {false, true, true, false}) {
-    popups.UsePopups(use);
-    EXPECT_EQ(popups.Root()->children.Count(), use ? 1 : 0);
-  }
-}
-
 using Surfaces = tests::ChartTest<SurfaceGraph>;
 
 TEST_F(Surfaces, FollowTheirCountAndTheGrid) {
