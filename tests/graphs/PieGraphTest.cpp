@@ -141,6 +141,24 @@ class Pie : public tests::ChartTest<PieGraph> {
   std::shared_ptr<scene::Transform> Holder() { return RootChild(8); }
 };
 
+TEST_F(Pie, KeepsItsPartsInOrderWhateverIsUsed) {
+  chart->SliceCount(1);
+  for (const bool use : {false, true, false}) {
+    chart->UseSpinAxis(use);
+    chart->UseDrillUp(use);
+    Written();
+    EXPECT_EQ(
+        chart->RootNode()->children.Items(),
+        (scene::MFNode::List{RootChild(1), chart->BackgroundProps()->RootNode(),
+                             chart->TitleProps()->RootNode(), chart->LegendProps()->RootNode(),
+                             chart->Viewpoints()->RootNode(), chart->Lights()->RootNode(),
+                             PieTransform(), Holder()}));
+    EXPECT_EQ(RootChild(1)->children.Count(), use ? 2 : 0) << "the spin axis";
+    EXPECT_EQ(PieTransform()->children.Items(), scene::MFNode::List{Slice(1)->Root()});
+    EXPECT_EQ(Holder()->children.Count(), use ? 1 : 0) << "the cone";
+  }
+}
+
 TEST_F(Pie, GivesItsSizesToTheSlicesItHasAndToNewOnes) {
   chart->SliceCount(2);
   EXPECT_EQ(Slice(2)->radius(), 3);
