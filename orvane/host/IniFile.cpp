@@ -1,8 +1,8 @@
 #include "orvane/host/IniFile.h"
 
 #include "orvane/host/AutomationError.h"
-#include "orvane/host/FolderLock.h"
 #include "orvane/host/FileReplacement.h"
+#include "orvane/host/FolderLock.h"
 
 #include <cstdlib>
 #include <fstream>
