@@ -177,6 +177,10 @@ TEST_F(Pie, GivesItsSizesToTheSlicesItHasAndToNewOnes) {
 }
 
 TEST_F(Pie, RejectsWhatIsOutOfRangeAndChangesNothing) {
+  using Let = void (PieGraph::*)(float);
+  for (const Let let : {Let{&PieGraph::radius}, &PieGraph::InnerRadius, &PieGraph::BevelRadius}) {
+    EXPECT_EQ(ErrorOf([&] { (chart.get()->*let)(INFINITY); }).number, host::ErrorNumber::Overflow);
+  }
   chart->SliceCount(3);
   const std::string before = Written();
   const std::string index = "Invalid slice index, slice count = 3";

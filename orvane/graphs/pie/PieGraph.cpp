@@ -66,19 +66,19 @@ void PieGraph::radius(float value) {
   host::Require(value > 0, "Invalid radius, must be greater than 0");
   // A slice may reject what its cone cannot follow; then the first one does.
   for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->radius(value);
-  m_radius = value;
+  m_radius = Single(value);  // Without slices nothing else rejects infinity.
 }
 
 void PieGraph::InnerRadius(float radius) {
   host::Require(radius > 0, "Invalid inner radius, must be greater than 0");
   for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->InnerRadius(radius);
-  m_innerRadius = radius;
+  m_innerRadius = Single(radius);
 }
 
 void PieGraph::BevelRadius(float radius) {
   host::Require(radius > 0, "Invalid bevel radius, must be greater than 0");
   for (const std::int16_t i : Indexes(SliceCount())) Slice(i)->BevelRadius(radius);
-  m_bevelRadius = radius;
+  m_bevelRadius = Single(radius);
 }
 
 void PieGraph::SliceCount(std::int16_t count) {
