@@ -3,8 +3,8 @@
 
 #include "Values.h"
 
+#include "orvane/automation/AutomationError.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/AutomationError.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,8 +1,8 @@
 /// How Python values become late-bound values and back.
 #pragma once
 
-#include "orvane/host/Coercion.h"
-#include "orvane/host/Object.h"
+#include "orvane/automation/Coercion.h"
+#include "orvane/automation/Object.h"
 
 #include <memory>
 

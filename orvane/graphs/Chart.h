@@ -1,12 +1,12 @@
 /// What all charts share: sky, title, viewpoints, lights, a root, and the export.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/BackgroundInfo.h"
 #include "orvane/components/LightCollection.h"
 #include "orvane/components/TextInfo.h"
 #include "orvane/components/ViewpointCollection.h"
 #include "orvane/graphs/IOrvaneGraph.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/RouteList.h"
 
 #include <initializer_list>

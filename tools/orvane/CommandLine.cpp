@@ -8,7 +8,7 @@
 #include "TypesReference.h"
 #include "WorldOutput.h"
 
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/AutomationError.h"
 
 #include <memory>
 #include <string>

@@ -4,7 +4,7 @@
 
 #include "Source.h"
 
-#include "orvane/host/Value.h"
+#include "orvane/automation/Value.h"
 
 #include <cstddef>
 #include <string>

@@ -3,9 +3,9 @@
 #include "Color.h"
 #include "Json.h"
 
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Coercion.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Coercion.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -3,7 +3,7 @@
 
 #include "Source.h"
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 #include <memory>
 #include <string>

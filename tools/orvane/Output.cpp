@@ -2,7 +2,7 @@
 
 #include "Source.h"
 
-#include "orvane/host/FileReplacement.h"
+#include "orvane/platform/FileReplacement.h"
 
 #include <cstddef>
 #include <deque>

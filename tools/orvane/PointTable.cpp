@@ -2,7 +2,7 @@
 
 #include "Csv.h"
 
-#include "orvane/host/Enumeration.h"
+#include "orvane/automation/Enumeration.h"
 
 #include <array>
 #include <string_view>

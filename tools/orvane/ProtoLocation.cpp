@@ -6,8 +6,8 @@
 #include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/control/ProtoPath.h"
 #include "orvane/control/ProtoSettings.h"
-#include "orvane/host/Container.h"
-#include "orvane/host/HostServices.h"
+#include "orvane/forms/Container.h"
+#include "orvane/platform/HostServices.h"
 
 #include <array>
 #include <memory>
