@@ -1,15 +1,16 @@
 #include "ChartCommands.h"
 
-#include "ChartOptions.h"
-#include "CloudTable.h"
-#include "DensityChart.h"
-#include "PieChart.h"
-#include "ScatterChart.h"
-#include "SeriesCharts.h"
-#include "Source.h"
-#include "SurfaceCharts.h"
-#include "Table.h"
 #include "WorldOutput.h"
+
+#include "orvane/tables/ChartOptions.h"
+#include "orvane/tables/DensityChart.h"
+#include "orvane/tables/PieChart.h"
+#include "orvane/tables/ScatterChart.h"
+#include "orvane/tables/SeriesCharts.h"
+#include "orvane/tables/SurfaceCharts.h"
+#include "orvane/tables/read/CloudTable.h"
+#include "orvane/tables/read/Source.h"
+#include "orvane/tables/read/Table.h"
 
 #include <functional>
 #include <map>
@@ -25,7 +26,7 @@ namespace {
 /// What the commands that chart a table are given.
 struct ChartRequest {
   std::string table;
-  ChartOptions options;
+  tables::ChartOptions options;
   WorldOutput output;
 };
 
@@ -44,14 +45,14 @@ CLI::Validator NumberFrom(double least, double most) {
 }
 
 /// Title and colours, which every chart has.
-void AddLookOptions(CLI::App& command, ChartOptions& options) {
+void AddLookOptions(CLI::App& command, tables::ChartOptions& options) {
   command.add_option("--title", options.title, "Title above the chart");
 
   const auto isColor = [](const std::string& text) {
-    return ParseColor(text) ? std::string() : text + " is not a colour (#rrggbb)";
+    return tables::ParseColor(text) ? std::string() : text + " is not a colour (#rrggbb)";
   };
   const auto setBackground = [&options](const std::string& text) {
-    options.background = *ParseColor(text);
+    options.background = *tables::ParseColor(text);
   };
   command
       .add_option_function<std::string>("--background", setBackground,
@@ -60,7 +61,7 @@ void AddLookOptions(CLI::App& command, ChartOptions& options) {
       ->check(CLI::Validator(isColor, ""));
 }
 
-void AddToggleOption(CLI::App& command, ChartOptions& options) {
+void AddToggleOption(CLI::App& command, tables::ChartOptions& options) {
   command.add_flag_callback(
       "--no-toggles", [&options] { options.useToggles = false; },
       "Leave out the legend's check boxes");
@@ -68,7 +69,7 @@ void AddToggleOption(CLI::App& command, ChartOptions& options) {
 
 /// What charts of all kinds but points take. `columns` says what the table holds.
 void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
-  ChartOptions& options = request.options;
+  tables::ChartOptions& options = request.options;
   command.add_option("table", request.table, "CSV table: " + columns)
       ->required()
       ->type_name("DATA.csv");
@@ -79,14 +80,14 @@ void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string
   command.add_option("--missing", "What an empty cell stands for; left out, it is an error")
       ->type_name("zero")
       ->check(CLI::Validator(isZero, ""))
-      ->each([&options](const std::string&) { options.missing = MissingCell::Zero; });
+      ->each([&options](const std::string&) { options.missing = tables::MissingCell::Zero; });
   AddToggleOption(command, options);
   AddOutputOptions(command, request.output);
 }
 
-void AddSizeOption(CLI::App& command, ChartOptions& options) {
+void AddSizeOption(CLI::App& command, tables::ChartOptions& options) {
   const auto setSize = [&options](const std::vector<float>& extents) {
-    options.size = GridSize{extents[0], extents[1], extents[2]};
+    options.size = tables::GridSize{extents[0], extents[1], extents[2]};
   };
   command
       .add_option_function<std::vector<float>>(
@@ -94,10 +95,10 @@ void AddSizeOption(CLI::App& command, ChartOptions& options) {
       ->type_name("W,H,D")
       ->delimiter(',')
       ->expected(3)
-      ->check(NumberFrom(kLeastExtent, kMostExtent));
+      ->check(NumberFrom(tables::kLeastExtent, tables::kMostExtent));
 }
 
-void AddPopupOption(CLI::App& command, ChartOptions& options) {
+void AddPopupOption(CLI::App& command, tables::ChartOptions& options) {
   command.add_flag_callback(
       "--no-popups", [&options] { options.usePopups = false; },
       "Leave out the texts shown at a value");
@@ -116,12 +117,12 @@ void AddChoice(CLI::App& command, const std::string& name, T& choice,
       ->check(CLI::IsMember(choices));
 }
 
-void AddStyleOption(CLI::App& command, ChartOptions& options) {
+void AddStyleOption(CLI::App& command, tables::ChartOptions& options) {
   AddChoice(command, "--style", options.isRounded, {{"outlined", false}, {"rounded", true}},
             "outlined|rounded", "Edges of the shapes; left out, outlined");
 }
 
-void AddGroupingOptions(CLI::App& command, ChartOptions& options) {
+void AddGroupingOptions(CLI::App& command, tables::ChartOptions& options) {
   auto* grouped = command.add_flag_callback(
       "--grouped", [&options] { options.isGrouped = true; }, "Series side by side in each cell");
   command
@@ -131,7 +132,7 @@ void AddGroupingOptions(CLI::App& command, ChartOptions& options) {
       ->excludes(grouped);
 }
 
-void AddSurfaceOptions(CLI::App& command, ChartOptions& options) {
+void AddSurfaceOptions(CLI::App& command, tables::ChartOptions& options) {
   command
       .add_option(
           "--surface", options.surface,
@@ -141,17 +142,18 @@ void AddSurfaceOptions(CLI::App& command, ChartOptions& options) {
   AddStyleOption(command, options);
 }
 
-Table ReadSurface(const ChartOptions& options) {
-  return ReadTable(Source::Read(options.surface), options.missing);
+tables::Table ReadSurface(const tables::ChartOptions& options) {
+  return tables::ReadTable(tables::Source::Read(options.surface), options.missing);
 }
 
-using MakeChart = std::function<std::shared_ptr<Chart>(const Table&, const ChartOptions&)>;
+using MakeChart =
+    std::function<std::shared_ptr<Chart>(const tables::Table&, const tables::ChartOptions&)>;
 
 /// Adds the command "chart `name`", which writes the world of what `makeChart` makes of its table.
 /// `addOptions(command, options)` adds the options of this kind of chart.
 void AddChartCommand(CLI::App& charts, const std::string& name, const std::string& text,
                      std::ostream& out, const MakeChart& makeChart,
-                     const std::function<void(CLI::App&, ChartOptions&)>& addOptions) {
+                     const std::function<void(CLI::App&, tables::ChartOptions&)>& addOptions) {
   CLI::App& command = *charts.add_subcommand(name, text);
   const auto request = std::make_shared<ChartRequest>();
   AddChartOptions(command, *request,
@@ -161,7 +163,8 @@ void AddChartCommand(CLI::App& charts, const std::string& name, const std::strin
   addOptions(command, request->options);
   command.callback([request, makeChart, &out] {
     WriteWorld(request->output, out, [&] {
-      const Table table = ReadTable(Source::Read(request->table), request->options.missing);
+      const tables::Table table =
+          tables::ReadTable(tables::Source::Read(request->table), request->options.missing);
       return makeChart(table, request->options)->ExportToString(true, true);
     });
   });
@@ -170,21 +173,23 @@ void AddChartCommand(CLI::App& charts, const std::string& name, const std::strin
 void AddPieCommand(CLI::App& charts, std::ostream& out) {
   CLI::App& command = *charts.add_subcommand("pie", "A pie of slices that can be pulled out");
   const auto request = std::make_shared<ChartRequest>();
-  const auto pie = std::make_shared<PieOptions>();
+  const auto pie = std::make_shared<tables::PieOptions>();
   AddChartOptions(command, *request, "labels, values and, on demand, heights, below a header");
-  AddChoice(
-      command, "--style", pie->style,
-      {{"outlined", PieStyle::Outlined}, {"rounded", PieStyle::Rounded}, {"ring", PieStyle::Ring}},
-      "outlined|rounded|ring", "Shape of the slices; left out, outlined");
+  AddChoice(command, "--style", pie->style,
+            {{"outlined", tables::PieStyle::Outlined},
+             {"rounded", tables::PieStyle::Rounded},
+             {"ring", tables::PieStyle::Ring}},
+            "outlined|rounded|ring", "Shape of the slices; left out, outlined");
   AddChoice(command, "--labels", pie->labels,
-            {{"always", PieLabels::Always}, {"touch", PieLabels::Touch}}, "always|touch",
-            "When slices show their labels; left out, while they are touched");
+            {{"always", tables::PieLabels::Always}, {"touch", tables::PieLabels::Touch}},
+            "always|touch", "When slices show their labels; left out, while they are touched");
   command.add_flag_callback(
       "--spin", [pie] { pie->useSpinAxis = true; }, "An axis that turns the pie");
   command.callback([request, pie, &out] {
     WriteWorld(request->output, out, [&] {
-      const auto shares = ReadPieTable(Source::Read(request->table), request->options.missing);
-      return MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
+      const auto shares =
+          tables::ReadPieTable(tables::Source::Read(request->table), request->options.missing);
+      return tables::MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
     });
   });
 }
@@ -192,12 +197,12 @@ void AddPieCommand(CLI::App& charts, std::ostream& out) {
 void AddScatterCommand(CLI::App& charts, std::ostream& out) {
   struct Request {
     std::string table;
-    ScatterOptions options;
+    tables::ScatterOptions options;
     WorldOutput output;
   };
   CLI::App& command = *charts.add_subcommand("scatter", "Points in space, still or animated");
   const auto request = std::make_shared<Request>();
-  ScatterOptions& options = request->options;
+  tables::ScatterOptions& options = request->options;
   command
       .add_option("table", request->table,
                   "CSV table: columns x, y, z, and if need be size, color or group, and frame")
@@ -224,7 +229,8 @@ void AddScatterCommand(CLI::App& charts, std::ostream& out) {
   AddOutputOptions(command, request->output);
   command.callback([request, &out] {
     WriteWorld(request->output, out, [&] {
-      return ScatterWorld(ReadPointTable(Source::Read(request->table)), request->options);
+      return tables::ScatterWorld(tables::ReadPointTable(tables::Source::Read(request->table)),
+                                  request->options);
     });
   });
 }
@@ -248,12 +254,13 @@ void AddDensityCommand(CLI::App& charts, std::ostream& out, std::ostream& err) {
                   "Width of the hill around a point in scene units;"
                   " left out, by Silverman's rule of thumb")
       ->type_name("WIDTH")
-      ->check(NumberFrom(kLeastSigma, kMostExtent));
+      ->check(NumberFrom(tables::kLeastSigma, tables::kMostExtent));
   AddOutputOptions(command, request->output);
   command.callback([request, sigma, &out, &err] {
     WriteWorld(request->output, out, [&] {
-      const CloudTable clouds = ReadCloudTable(Source::Read(request->table));
-      const auto chart = MakeDensityChart(clouds, *sigma, request->options);
+      const tables::CloudTable clouds =
+          tables::ReadCloudTable(tables::Source::Read(request->table));
+      const auto chart = tables::MakeDensityChart(clouds, *sigma, request->options);
       if (!*sigma) err << "--sigma " << chart->Sigma() << " by Silverman's rule of thumb\n";
       return chart->ExportToString(true, true);
     });
@@ -265,28 +272,28 @@ void AddDensityCommand(CLI::App& charts, std::ostream& out, std::ostream& err) {
 void AddChartCommands(CLI::App& app, std::ostream& out, std::ostream& err) {
   CLI::App& charts = *app.add_subcommand("chart", "Chart a table of numbers");
   charts.require_subcommand(1);
-  AddChartCommand(charts, "area", "Areas, one behind the other", out, MakeAreaChart,
-                  [](CLI::App&, ChartOptions&) {});
-  AddChartCommand(charts, "column", "Columns, in rows or side by side", out, MakeColumnChart,
-                  [](CLI::App& command, ChartOptions& options) {
+  AddChartCommand(charts, "area", "Areas, one behind the other", out, tables::MakeAreaChart,
+                  [](CLI::App&, tables::ChartOptions&) {});
+  AddChartCommand(charts, "column", "Columns, in rows or side by side", out,
+                  tables::MakeColumnChart, [](CLI::App& command, tables::ChartOptions& options) {
                     AddStyleOption(command, options);
                     AddGroupingOptions(command, options);
                   });
-  AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, MakeRibbonChart,
+  AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, tables::MakeRibbonChart,
                   AddStyleOption);
   AddPieCommand(charts, out);
-  AddChartCommand(charts, "surface", "A surface over a grid of numbers", out, MakeSurfaceChart,
-                  [](CLI::App&, ChartOptions&) {});
+  AddChartCommand(charts, "surface", "A surface over a grid of numbers", out,
+                  tables::MakeSurfaceChart, [](CLI::App&, tables::ChartOptions&) {});
   AddChartCommand(
       charts, "column-surface", "Columns in rows, and a surface over them", out,
-      [](const Table& table, const ChartOptions& options) {
-        return MakeColumnSurfaceChart(table, ReadSurface(options), options);
+      [](const tables::Table& table, const tables::ChartOptions& options) {
+        return tables::MakeColumnSurfaceChart(table, ReadSurface(options), options);
       },
       AddSurfaceOptions);
   AddChartCommand(
       charts, "ribbon-surface", "Ribbons, one behind the other, and a surface over them", out,
-      [](const Table& table, const ChartOptions& options) {
-        return MakeRibbonSurfaceChart(table, ReadSurface(options), options);
+      [](const tables::Table& table, const tables::ChartOptions& options) {
+        return tables::MakeRibbonSurfaceChart(table, ReadSurface(options), options);
       },
       AddSurfaceOptions);
   AddScatterCommand(charts, out);
