@@ -166,6 +166,8 @@ PYBIND11_MODULE(_orvane, module) {
   AddErrors(module);
   AddTables(module);
   AddObject(module);
+  AddCharts(module);
+  module.attr("version") = ORVANE_VERSION;
   module.def("is_row", IsRow);
   module.def("class_of", ClassOf);
   module.def("make_classes_with", MakeClassesWith);

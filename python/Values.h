@@ -31,6 +31,9 @@ host::Value ToValue(pybind11::handle value, host::Object& object, const host::Pl
 /// that `ClassOf` gives.
 pybind11::object ToPython(const host::Value& value);
 
+/// The kinds of chart that tables become, and the call that makes them.
+void AddCharts(pybind11::module_& module);
+
 /// The Python class of a class of the model: the one that `makeClass` made of its table, once.
 pybind11::object ClassOf(const host::TypeInfo& type);
 void MakeClassesWith(pybind11::object makeClass);

@@ -78,7 +78,7 @@ void DressSurfaces(DensityGraph& chart, const CloudTable& table, const ValueAxes
 
 }  // namespace
 
-std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table, std::optional<float> sigma,
+std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table,
                                                const ChartOptions& options) {
   ValueAxes axes;
   axes.x = ScaleAlong(table, &Cloud::Point::x);
@@ -103,7 +103,8 @@ std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table, std::opt
   DressSurfaces(*chart, table, axes, latticeStep, layout);
   DressAroundGrid(*chart, *chart->LegendProps(), layout, SubjectOf(layout), options);
   chart->LegendProps()->UseSeriesToggle(options.useToggles);
-  chart->Sigma(sigma.value_or(static_cast<float>(std::max(latticeStep, SilvermanSigma(*chart)))));
+  chart->Sigma(
+      options.sigma.value_or(static_cast<float>(std::max(latticeStep, SilvermanSigma(*chart)))));
   return chart;
 }
 

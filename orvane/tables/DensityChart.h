@@ -7,17 +7,15 @@
 #include "orvane/tables/read/CloudTable.h"
 
 #include <memory>
-#include <optional>
 
 namespace orvane::tables {
 
 /// The chart of `table`: x along x, z along z from the back to the front, a surface for each group.
 ///
-/// `sigma`, in scene units, > 0, is the width of the kernel. Left out, it is the mean of what
+/// Where `options` leave out sigma, it is the mean of what
 /// Silverman's rule of thumb gives for the points of each group, weighted by their number, and at
 /// least the distance of two lattice points.
 ORVANE_API std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table,
-                                                          std::optional<float> sigma,
                                                           const ChartOptions& options);
 
 }  // namespace orvane::tables

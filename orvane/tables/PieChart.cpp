@@ -14,13 +14,13 @@ using std::int16_t;
 
 float Single(double value) { return static_cast<float>(value); }
 
-SliceStyle StyleOf(PieStyle style) {
+SliceStyle StyleOf(ShapeStyle style) {
   switch (style) {
-    case PieStyle::Rounded:
+    case ShapeStyle::Rounded:
       return SliceStyle::ROUNDED_SLICE;
-    case PieStyle::Ring:
+    case ShapeStyle::Ring:
       return SliceStyle::RING_SLICE;
-    case PieStyle::Outlined:
+    case ShapeStyle::Outlined:
       break;
   }
   return SliceStyle::OUTLINED_SLICE;
@@ -55,7 +55,7 @@ void DressLabel(PieSliceInfo& slice, const PieLabel& label, const PieLayout& lay
        label.y - text.Root()->translation.Y());
 }
 
-void DressSlices(PieGraph& chart, const PieLayout& layout, const PieOptions& options,
+void DressSlices(PieGraph& chart, const PieLayout& layout, const ChartOptions& options,
                  const Style& style) {
   for (std::size_t i = 0; i < layout.heights.size(); ++i) {
     PieSliceInfo& slice = *chart.GetSlice(static_cast<int16_t>(i + 1));
@@ -91,20 +91,20 @@ void LightUp(PieGraph& chart, const PieLayout& layout) {
 }  // namespace
 
 std::shared_ptr<PieGraph> MakePieChart(const std::vector<PieShare>& shares,
-                                       const ChartOptions& options, const PieOptions& pieOptions) {
-  const PieLayout layout = LayOutPie(shares, options.title, pieOptions);
+                                       const ChartOptions& options) {
+  const PieLayout layout = LayOutPie(shares, options);
   const Style style(options.background);
   auto chart = std::make_shared<PieGraph>();
   chart->radius(Single(layout.radius));
   chart->InnerRadius(Single(0.5 * layout.radius));
   chart->BevelRadius(Single(0.04 * layout.radius));
   chart->SliceCount(static_cast<int16_t>(shares.size()));
-  chart->UseSpinAxis(pieOptions.useSpinAxis);
-  if (pieOptions.labels == PieLabels::Always) {
+  chart->UseSpinAxis(options.useSpinAxis);
+  if (options.sliceLabels == SliceLabels::Always) {
     chart->SliceTextDisplayStyle(SliceTextVisibility::SHOW_ALWAYS);
   }
   ShareOut(*chart, shares);
-  DressSlices(*chart, layout, pieOptions, style);
+  DressSlices(*chart, layout, options, style);
   DressBackground(*chart, options.background);
   PlaceTexts(*chart, layout, options.useToggles, style);
   AddViews(*chart, ViewsOf(layout));

@@ -15,7 +15,6 @@ namespace orvane::tables {
 /// A pie of `shares`, ready to be exported. Its slices close the ring: where the last one ends is
 /// within 1e-5 radians of where the first one begins.
 ORVANE_API std::shared_ptr<PieGraph> MakePieChart(const std::vector<PieShare>& shares,
-                                                  const ChartOptions& options,
-                                                  const PieOptions& pieOptions);
+                                                  const ChartOptions& options);
 
 }  // namespace orvane::tables

@@ -25,20 +25,17 @@ using std::int16_t;
 constexpr double kLabelShift = 0.16;
 constexpr double kLabelClearance = 0.24 + kLabelShift;
 
-/// DEF name of the sensor that starts an animation that does not loop.
-constexpr const char* kStarter = "START";
-
 float Single(double value) { return static_cast<float>(value); }
 
-bool IsAnimated(const PointTable& table, const ScatterOptions& options) {
+bool IsAnimated(const PointTable& table, const ChartOptions& options) {
   return table.frames.size() > 1 && options.animation == AnimationStyle::VRML_ANALOG;
 }
 
-bool HasStarter(const PointTable& table, const ScatterOptions& options) {
+bool HasStarter(const PointTable& table, const ChartOptions& options) {
   return IsAnimated(table, options) && options.loop == LoopStyle::VRML_NO_LOOP;
 }
 
-bool HasSlider(const PointTable& table, const ScatterOptions& options) {
+bool HasSlider(const PointTable& table, const ChartOptions& options) {
   return table.frames.size() > 1 && options.animation == AnimationStyle::VRML_DISCRETE;
 }
 
@@ -113,7 +110,7 @@ double LargestRadius(const PointTable& table, const GridSize& size) {
   return std::clamp(0.12 * room, 0.006 * extent, 0.02 * extent);
 }
 
-ScatterLayout LayOutScatter(const PointTable& table, const ScatterOptions& options) {
+ScatterLayout LayOutScatter(const PointTable& table, const ChartOptions& options) {
   ScatterLayout layout;
   ValueAxes& axes = layout.axes;
   axes.x = ScaleOf(table, &PointRow::x);
@@ -213,7 +210,7 @@ void MoveSlider(ScatterGraph& chart, const ScatterLayout& layout) {
 }
 
 /// A flat cone that lies in front of the grid and points to the right, as on a button that says
-/// "play".
+/// "play". It starts an animation that does not loop.
 void AddStarter(ScatterGraph& chart, const ScatterLayout& layout) {
   const double size = layout.starterSize;
   const auto cone = scene::Create<scene::Cone>();
@@ -227,7 +224,7 @@ void AddStarter(ScatterGraph& chart, const ScatterLayout& layout) {
   shape->geometry.Value(cone);
   shape->appearance.Value(appearance);
   const auto sensor = scene::Create<scene::TouchSensor>();
-  sensor->SetDefName(kStarter);
+  sensor->SetDefName("START");
 
   const auto starter = scene::Create<scene::Transform>();
   starter->children.Append(sensor);
@@ -239,12 +236,13 @@ void AddStarter(ScatterGraph& chart, const ScatterLayout& layout) {
   starter->translation.Y(Single(kFlatness * size / 2));
   starter->translation.Z(Single(layout.frontEdge + size / 2));
   chart.RootNode()->children.Append(starter);
+  chart.ExtraRoutes().AddRoute(sensor, "touchTime", chart.TimeKeeper(), "set_startTime");
 }
 
 }  // namespace
 
 std::shared_ptr<ScatterGraph> MakeScatterChart(const PointTable& table,
-                                               const ScatterOptions& options) {
+                                               const ChartOptions& options) {
   auto chart = std::make_shared<ScatterGraph>();
   const ScatterLayout layout = LayOutScatter(table, options);
   const Style style(options.background);
@@ -265,15 +263,6 @@ std::shared_ptr<ScatterGraph> MakeScatterChart(const PointTable& table,
   if (layout.sliderLength > 0) MoveSlider(*chart, layout);
   if (layout.starterSize > 0) AddStarter(*chart, layout);
   return chart;
-}
-
-std::string ScatterWorld(const PointTable& table, const ScatterOptions& options) {
-  std::string world = MakeScatterChart(table, options)->ExportToString(true, true);
-  // ROUTEs end a world, and its chart knows nothing of the starter.
-  if (HasStarter(table, options)) {
-    world += std::string("ROUTE ") + kStarter + ".touchTime TO TIME_KEEPER.set_startTime\n";
-  }
-  return world;
 }
 
 }  // namespace orvane::tables

@@ -70,7 +70,7 @@ void ShapeColumns(ColumnSeriesInfo& series, std::size_t slots, const GridLayout&
   series.Width(static_cast<float>(width));
   series.Depth(static_cast<float>(depth));
   series.BevelRadius(static_cast<float>(0.15 * std::min(width, depth)));
-  if (options.isRounded) series.Style(ColumnStyle::ROUNDED_COLUMN);
+  if (options.style == ShapeStyle::Rounded) series.Style(ColumnStyle::ROUNDED_COLUMN);
 }
 
 void ShapeRibbon(RibbonSeriesInfo& series, const GridLayout& layout, const ChartOptions& options) {
@@ -78,7 +78,7 @@ void ShapeRibbon(RibbonSeriesInfo& series, const GridLayout& layout, const Chart
   series.Depth(BandDepth(layout));
   series.Thickness(static_cast<float>(thickness));
   series.BevelRadius(static_cast<float>(0.4 * thickness));
-  if (options.isRounded) series.Style(RibbonStyle::ROUNDED_RIBBON);
+  if (options.style == ShapeStyle::Rounded) series.Style(RibbonStyle::ROUNDED_RIBBON);
 }
 
 }  // namespace orvane::tables

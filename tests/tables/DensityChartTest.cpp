@@ -42,8 +42,9 @@ TEST(CloudTable, SaysWhereItIsWrong) {
 TEST(DensityChart, PutsPointsAndLabelsInTheirPlaces) {
   ChartOptions options;
   options.size = GridSize{16, 5, 8};
+  options.sigma = 0.7F;
   const auto table = CloudsOf("Long,Deep,Kind\n32,2000000,b\n48,2500000,a\n40,2250000,b\n");
-  const auto chart = MakeDensityChart(table, 0.7F, options);
+  const auto chart = MakeDensityChart(table, options);
   EXPECT_EQ(chart->SurfaceCount(), 2);
   EXPECT_EQ(chart->GetSurface(1)->LegendText(), "b");
   EXPECT_EQ(chart->GetSurface(1)->PointList().Items(), (std::vector<scene::Vec2f>{{0, 0}, {8, 4}}));
@@ -65,10 +66,10 @@ TEST(DensityChart, TakesSilvermansSigma) {
   options.size = GridSize{4, 5, 4};
   // Four points at (±2, ±2) about the middle: along each axis the variance is 16 / 3.
   const auto square = CloudsOf("x,z\n0,0\n4,0\n0,4\n4,4\n");
-  EXPECT_FLOAT_EQ(MakeDensityChart(square, {}, options)->Sigma(),
+  EXPECT_FLOAT_EQ(MakeDensityChart(square, options)->Sigma(),
                   static_cast<float>(std::sqrt(16.0 / 3) * std::pow(4, -1.0 / 6)));
   // Points in one place have no spread: the lattice decides.
-  const auto same = MakeDensityChart(CloudsOf("x,z\n3,3\n3,3\n"), {}, options);
+  const auto same = MakeDensityChart(CloudsOf("x,z\n3,3\n3,3\n"), options);
   same->ExportToString(true, true);
   EXPECT_FLOAT_EQ(same->Sigma(), same->GetSurface(1)->XSpacing());
 }

@@ -28,7 +28,7 @@ std::vector<double> EndsOf(PieGraph& chart) {
 }
 
 void ExpectClosed(const std::vector<PieShare>& shares) {
-  const auto chart = MakePieChart(shares, {}, {});
+  const auto chart = MakePieChart(shares, {});
   const auto ends = EndsOf(*chart);
   ASSERT_EQ(ends.size(), shares.size());
   EXPECT_NEAR(ends.back(), 2 * std::numbers::pi, 1e-5) << shares.size() << " slices";
@@ -61,8 +61,9 @@ TEST(PieChart, GivesEachSliceItsNumbersAndLook) {
   const auto shares = SharesOf("Kind,Count,Mass\nOne,30,500\n\"Two, three\",10.0,250\nNone,0,0\n");
   ChartOptions options;
   options.title = "Birds";
-  const auto chart = MakePieChart(
-      shares, options, {.style = PieStyle::Ring, .labels = PieLabels::Touch, .useSpinAxis = true});
+  options.style = ShapeStyle::Ring;
+  options.useSpinAxis = true;
+  const auto chart = MakePieChart(shares, options);
   ASSERT_EQ(chart->SliceCount(), 3);
   const float parts[] = {0.75F, 0.25F, 0};
   const float rises[] = {1, 0.5F, 0.03F};
@@ -110,9 +111,10 @@ TEST(PieLayout, KeepsLabelsClearOfPieLegendAndEachOther) {
   for (const int count : {1, 2, 3, 7, 12, 30, 200}) {
     std::string rows = "a,b";
     for (int i = 0; i < count; ++i) rows += "\nSlice," + std::to_string(1 + i % 4);
-    for (const auto when : {PieLabels::Always, PieLabels::Touch}) {
-      const PieLayout layout =
-          LayOutPie(SharesOf(rows), "", {.style = {}, .labels = when, .useSpinAxis = false});
+    for (const auto when : {SliceLabels::Always, SliceLabels::Touch}) {
+      ChartOptions options;
+      options.sliceLabels = when;
+      const PieLayout layout = LayOutPie(SharesOf(rows), options);
       int shown = 0;
       for (const PieLabel& label : layout.labels) {
         if (label.text.empty()) continue;
@@ -125,11 +127,11 @@ TEST(PieLayout, KeepsLabelsClearOfPieLegendAndEachOther) {
           EXPECT_GT(std::hypot(corner, z), layout.radius) << count;
         }
         for (const PieLabel& other : layout.labels) {
-          if (&other == &label || when == PieLabels::Touch) continue;
+          if (&other == &label || when == SliceLabels::Touch) continue;
           EXPECT_FALSE(Covers(other, layout.textHeight, x, z)) << count;
         }
       }
-      EXPECT_GE(shown, when == PieLabels::Touch ? count : std::min(count, 7)) << count;
+      EXPECT_GE(shown, when == SliceLabels::Touch ? count : std::min(count, 7)) << count;
       EXPECT_LE(layout.LegendHeight(), 2.3 * layout.radius);
     }
   }

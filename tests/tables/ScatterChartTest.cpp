@@ -23,7 +23,7 @@ Sphere SphereOf(const ScatterGraph& chart, std::int16_t frame, std::int16_t inde
 }
 
 TEST(ScatterChart, PutsPointsIntoTheGrid) {
-  ScatterOptions options;
+  ChartOptions options;
   options.size = GridSize{10, 5, 8};
   options.title = "Points";
   // Round limits: 20 to 80 by 10, -1 to 1 by 0.5, 0 to 4 millions by 1.
@@ -79,7 +79,7 @@ constexpr const char* kFrames =
     "x,y,z,frame\n0,0,0,A\n1,1,1,A\n2,2,2,B\n3,3,3,B\n4,4,4,B\n5,5,5,C\n";
 
 TEST(ScatterChart, MovesAllRowsOfUnequalFramesOrGivesThemASlider) {
-  ScatterOptions options;
+  ChartOptions options;
   options.loop = LoopStyle::VRML_BACK_AND_FORTH;
   options.frameSeconds = 2.5;
   const auto moving = MakeScatterChart(TableOf(kFrames), options);
@@ -95,7 +95,7 @@ TEST(ScatterChart, MovesAllRowsOfUnequalFramesOrGivesThemASlider) {
   EXPECT_NE(chosen->ExportToString(true, true).find("[ \"A\", \"B\", \"C\" ]"), std::string::npos);
 }
 
-TEST(ScatterWorld, HasAStarterOnlyWhereNothingElseStartsIt) {
+TEST(ScatterChart, HasAStarterOnlyWhereNothingElseStartsIt) {
   const struct {
     const char* table;
     AnimationStyle animation;
@@ -108,10 +108,11 @@ TEST(ScatterWorld, HasAStarterOnlyWhereNothingElseStartsIt) {
       {"x,y,z\n1,2,3\n", AnimationStyle::VRML_ANALOG, LoopStyle::VRML_NO_LOOP, false},
   };
   for (const auto& test : cases) {
-    ScatterOptions options;
+    ChartOptions options;
     options.animation = test.animation;
     options.loop = test.loop;
-    const std::string world = ScatterWorld(TableOf(test.table), options);
+    const std::string world =
+        MakeScatterChart(TableOf(test.table), options)->ExportToString(true, true);
     EXPECT_EQ(world.find("DEF START TouchSensor") != std::string::npos, test.hasStarter);
     EXPECT_EQ(world.ends_with("\nROUTE START.touchTime TO TIME_KEEPER.set_startTime\n"),
               test.hasStarter);

@@ -85,7 +85,7 @@ TEST(ColumnChart, StandsInRowsOrSideBySideAndRibbonsAlike) {
   ExpectNear(rows->GetSeries(2)->Height().Items(), {2.5, 5});
 
   options.isGrouped = true;
-  options.isRounded = true;
+  options.style = ShapeStyle::Rounded;
   const auto grouped = MakeColumnChart(table, options);
   grouped->ExportToString(true, true);
   EXPECT_EQ(grouped->ColumnsPerCell(), 2);

@@ -69,13 +69,13 @@ void DropCrowdedLabels(const std::vector<PieShare>& shares, PieLayout& layout) {
 
 /// Labels that are always shown say how large a part the slice is, those of a slice that is touched
 /// its value; which slice it is, the legend says.
-void LayOutLabels(const std::vector<PieShare>& shares, const PieOptions& options,
+void LayOutLabels(const std::vector<PieShare>& shares, const ChartOptions& options,
                   PieLayout& layout) {
   const double text = layout.textHeight;
   double before = 0;
   for (std::size_t i = 0; i < shares.size(); ++i) {
     PieLabel label;
-    const bool isShort = options.labels == PieLabels::Always;
+    const bool isShort = options.sliceLabels == SliceLabels::Always;
     label.text = isShort ? Percent(shares[i].part) : Label(shares[i].value);
     label.angle = 2 * std::numbers::pi * (before + shares[i].part / 2);
     before += shares[i].part;
@@ -89,7 +89,7 @@ void LayOutLabels(const std::vector<PieShare>& shares, const PieOptions& options
     label.y = layout.height * (0.5 - 0.5 * std::sin(label.angle));
     layout.labels.push_back(label);
   }
-  if (options.labels == PieLabels::Always) DropCrowdedLabels(shares, layout);
+  if (options.sliceLabels == SliceLabels::Always) DropCrowdedLabels(shares, layout);
 }
 
 /// To the right of all labels, its middle level with the pie.
@@ -164,8 +164,7 @@ double PieLayout::LegendHeight() const {
   return kLegendPitch * legendTextHeight * static_cast<double>(legend.size());
 }
 
-PieLayout LayOutPie(const std::vector<PieShare>& shares, const std::string& title,
-                    const PieOptions& options) {
+PieLayout LayOutPie(const std::vector<PieShare>& shares, const ChartOptions& options) {
   // A slice of height 0 is drawn as a plate.
   constexpr double kLeastRise = 0.03;
   PieLayout layout;
@@ -178,7 +177,7 @@ PieLayout LayOutPie(const std::vector<PieShare>& shares, const std::string& titl
   layout.textHeight = 0.12 * layout.radius;
   LayOutLabels(shares, options, layout);
   LayOutLegend(shares, layout);
-  LayOutTitle(title, layout);
+  LayOutTitle(options.title, layout);
   return layout;
 }
 

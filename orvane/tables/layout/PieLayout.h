@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
+#include "orvane/tables/ChartOptions.h"
 #include "orvane/tables/layout/Views.h"
 #include "orvane/tables/read/PieTable.h"
 
@@ -9,18 +10,6 @@
 #include <vector>
 
 namespace orvane::tables {
-
-enum class PieStyle { Outlined, Rounded, Ring };
-
-/// When the labels of slices are shown: parts always, or values while a slice is touched.
-enum class PieLabels { Always, Touch };
-
-/// What a user may choose about a pie.
-struct PieOptions {
-  PieStyle style = PieStyle::Outlined;
-  PieLabels labels = PieLabels::Touch;
-  bool useSpinAxis = false;
-};
 
 /// The label of a slice: where it stands and what it says. It is centred there and faces the
 /// viewer.
@@ -49,8 +38,7 @@ struct ORVANE_API PieLayout {
   double LegendHeight() const;
 };
 
-ORVANE_API PieLayout LayOutPie(const std::vector<PieShare>& shares, const std::string& title,
-                               const PieOptions& options);
+ORVANE_API PieLayout LayOutPie(const std::vector<PieShare>& shares, const ChartOptions& options);
 
 /// The views from above, the front and the top.
 std::vector<View> ViewsOf(const PieLayout& layout);
