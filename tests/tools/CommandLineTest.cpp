@@ -158,7 +158,7 @@ TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
 
   EXPECT_EQ(Orvane("protos a/b").status, 0);
   for (const ProtoFile& proto : ProtoFiles()) {
-    EXPECT_EQ(FileText("a/b/" + proto.name), FileText(ORVANE_SOURCE_DIR "/protos/" + proto.name));
+    EXPECT_EQ(FileText("a/b/" + proto.name), FileText(ORVANE_PROTO_DIR "/" + proto.name));
     EXPECT_EQ(FileText(proto.name), proto.text);
   }
 }
