@@ -37,9 +37,9 @@ void SetExtent(float extent, const scene::SFInt32& lineCount, scene::SFFloat& sp
   spacing.Value(CellSize(extent, CellCount(lineCount)));
 }
 
-/// Raises `changed` at the end; what one of its handlers rejects is taken back.
+/// Sets count and spacing, which go back when the chart does not follow.
 void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat& spacing,
-                  host::Event<std::int16_t>& changed, const char* message) {
+                  host::Event<std::int16_t>* followed, const char* message) {
   host::Require(count >= 1, message);
   const std::int16_t lines = Int16(count + 1);
   const float cell = CellSize(Extent(lineCount, spacing), count);
@@ -48,7 +48,7 @@ void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat&
   lineCount.Value(lines);
   spacing.Value(cell);
   try {
-    changed(count);
+    if (followed != nullptr) (*followed)(count);
   } catch (...) {
     lineCount.Value(oldLines);
     spacing.Value(oldCell);
@@ -106,8 +106,9 @@ void GridInfo::Width(float value) {
 std::int16_t GridInfo::XAxisCellCount() const { return CellCount(m_grid->xLineCount); }
 
 void GridInfo::XAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing, XCellCountChanged,
+  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing, &XCellCountFollowed,
                "The graph must have at least one cell on the X axis");
+  XCellCountChanged(count);
 }
 
 float GridInfo::Height() const { return Extent(m_grid->yLineCount, m_grid->ySpacing); }
@@ -119,8 +120,9 @@ void GridInfo::Height(float value) {
 std::int16_t GridInfo::YAxisCellCount() const { return CellCount(m_grid->yLineCount); }
 
 void GridInfo::YAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing, YCellCountChanged,
+  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing, nullptr,
                "The graph must have at least one cell on the Y axis");
+  YCellCountChanged(count);
 }
 
 float GridInfo::Depth() const { return Extent(m_grid->zLineCount, m_grid->zSpacing); }
@@ -132,8 +134,9 @@ void GridInfo::Depth(float value) {
 std::int16_t GridInfo::ZAxisCellCount() const { return CellCount(m_grid->zLineCount); }
 
 void GridInfo::ZAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing, ZCellCountChanged,
+  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing, &ZCellCountFollowed,
                "The graph must have at least one cell on the Z axis");
+  ZCellCountChanged(count);
 }
 
 void GridInfo::Transparency(float value) {

@@ -82,14 +82,13 @@ void PieGraph::BevelRadius(float radius) {
 }
 
 void PieGraph::SliceCount(std::int16_t count) {
-  while (SliceCount() > count) m_slices->RemoveSeries(host::Int16(count + 1));
-  while (SliceCount() < count) {
-    const auto slice = std::make_shared<PieSliceInfo>();
+  m_slices->Resize(count, [this] {
+    auto slice = std::make_shared<PieSliceInfo>();
     slice->radius(m_radius);
     slice->InnerRadius(m_innerRadius);
     slice->BevelRadius(m_bevelRadius);
-    m_slices->AddSeries(slice);
-  }
+    return slice;
+  });
 }
 
 void PieGraph::UseDrillUp(bool use) {

@@ -98,8 +98,7 @@ std::shared_ptr<PointCollection> ScatterGraph::Get1PointFrame(std::int16_t index
 
 void ScatterGraph::PointFrameCount(std::int16_t count) {
   host::Require(count >= 1, "There must be at least one point frame in the scene");
-  while (m_frames->Count() > count) m_frames->RemoveSeries(m_frames->Count());
-  while (m_frames->Count() < count) m_frames->AddSeries(std::make_shared<PointCollection>());
+  m_frames->Resize(count, [] { return std::make_shared<PointCollection>(); });
 }
 
 void ScatterGraph::FrameTimeGap(double seconds) {
