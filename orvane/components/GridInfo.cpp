@@ -21,10 +21,11 @@ float Extent(const scene::SFInt32& lineCount, const scene::SFFloat& spacing) {
 }
 
 /// The size of one of `cells` cells. Raises Overflow when that is too small for a float of full
-/// precision, so that sizes taken from it never come to 0.
+/// precision, so that sizes taken from it never come to 0. Only a grid without extent has cells of
+/// size 0.
 float CellSize(float extent, std::int16_t cells) {
   const float size = Single(Quotient(extent, cells));
-  if (size < std::numeric_limits<float>::min()) {
+  if (size < std::numeric_limits<float>::min() && extent != 0) {
     throw host::AutomationError(host::ErrorNumber::Overflow,
                                 "Overflow: a grid cell of that size does not fit a 32-bit float");
   }
@@ -62,17 +63,20 @@ const host::TypeInfo& GridInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<GridInfo>("The box of grid lines and walls that a chart's data stands in.")
           .Property<float>("Width", &GridInfo::Width, &GridInfo::Width,
-                           {"Extent along X; keeps the cell count", "scene units", "> 0", "8"})
+                           {"Extent along X; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "8"})
           .Property<std::int16_t>("XAxisCellCount", &GridInfo::XAxisCellCount,
                                   &GridInfo::XAxisCellCount,
                                   {"Cells along X; keeps Width", "", "1..32766", "4"})
           .Property<float>("Height", &GridInfo::Height, &GridInfo::Height,
-                           {"Extent along Y; keeps the cell count", "scene units", "> 0", "6"})
+                           {"Extent along Y; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "6"})
           .Property<std::int16_t>("YAxisCellCount", &GridInfo::YAxisCellCount,
                                   &GridInfo::YAxisCellCount,
                                   {"Cells along Y; keeps Height", "", "1..32766", "4"})
           .Property<float>("Depth", &GridInfo::Depth, &GridInfo::Depth,
-                           {"Extent along Z; keeps the cell count", "scene units", "> 0", "8"})
+                           {"Extent along Z; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "8"})
           .Property<std::int16_t>("ZAxisCellCount", &GridInfo::ZAxisCellCount,
                                   &GridInfo::ZAxisCellCount,
                                   {"Cells along Z; keeps Depth", "", "1..32766", "4"})

@@ -15,7 +15,8 @@ namespace orvane {
 /// The box of grid lines and walls, from (0, 0, 0) to (Width, Height, Depth) in scene units.
 ///
 /// Extent = spacing x cells along each axis; the node's own fields are the only store. A cell count
-/// of 32767 raises Overflow: its line count does not fit 16 bits.
+/// of 32767 raises Overflow: its line count does not fit 16 bits. So does an extent or a count that
+/// makes cells smaller than 1.17549e-38, the least float of full precision.
 class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
  public:
   static constexpr const char* kClassName = "GridInfo";

@@ -103,6 +103,7 @@ void PieGraph::Arrange() {
   AlignLegend();
   BuildSlices();
   if (UseSpinAxis()) WireSpinAxis();
+  m_drillUpHolder->translation.Y(0);
   if (m_usesDrillUp) AlignDrillUp();
 }
 
@@ -132,6 +133,7 @@ void PieGraph::BuildSlices() {
     m_pie->children.Append(slice.Root());
     WireSlice(slice, i, legend);
   }
+  legend.Finish();
 }
 
 void PieGraph::WireSlice(PieSliceInfo& slice, std::int16_t number, LegendWiring& legend) {

@@ -7,6 +7,7 @@
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace orvane {
@@ -51,7 +52,7 @@ const host::TypeInfo& ScatterGraph::Type() const {
               {"Number of point frames; a let adds empty ones or removes trailing ones", "", ">= 1",
                "0"})
           .Property<double>("FrameTimeGap", &Graph::FrameTimeGap, &Graph::FrameTimeGap,
-                            {"Time from one frame to the next", "seconds", ">= 1", "1"})
+                            {"Time from one frame to the next", "seconds", ">= 1, finite", "1"})
           .Property<LoopStyle>(
               "AnimationLoopStyle", &Graph::AnimationLoopStyle, &Graph::AnimationLoopStyle,
               {"What an animation does after the last frame", "", "", "VRML_NO_LOOP"})
@@ -103,6 +104,10 @@ void ScatterGraph::PointFrameCount(std::int16_t count) {
 
 void ScatterGraph::FrameTimeGap(double seconds) {
   host::Require(seconds >= 1, "The frame time gap must take at least 1 second");
+  if (std::isinf(seconds)) {
+    throw host::AutomationError(host::ErrorNumber::Overflow,
+                                "Overflow: the frame time gap must be finite");
+  }
   m_frameTimeGap = seconds;
 }
 
