@@ -63,7 +63,8 @@ void ColumnGraph::m_gridInfo_ZCellCountFollowed(std::int16_t newCount) {
   const auto slots = Indexes(m_slots->Count());
   std::vector<SeriesCollection::Items> resized;
   for (const std::int16_t i : slots) resized.push_back(ResizedSlot(*Slot(i), newCount));
-  for (const std::int16_t i : slots) Slot(i)->Replace(std::move(resized[i - 1U]));
+  auto next = resized.begin();
+  for (const std::int16_t i : slots) Slot(i)->Replace(std::move(*next++));
 }
 
 float ColumnGraph::LargestDepth() const {

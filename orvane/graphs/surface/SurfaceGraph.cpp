@@ -34,7 +34,8 @@ void SurfaceGraph::ResizeSurfaces(
   const auto surfaces = Indexes(SurfaceCount());
   std::vector<SurfaceInfo::Blank> blanks;
   for (const std::int16_t i : surfaces) blanks.push_back(blank(*GetSurface(i)));
-  for (const std::int16_t i : surfaces) GetSurface(i)->Take(std::move(blanks[i - 1U]));
+  auto next = blanks.begin();
+  for (const std::int16_t i : surfaces) GetSurface(i)->Take(std::move(*next++));
 }
 
 }  // namespace orvane
