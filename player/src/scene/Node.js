@@ -54,42 +54,47 @@
 //   shininess. center alone changes in animations, at every frame: 5,000 balls must be quick. The body of
 //   qm4_SphereCollection is a Shape with it.
 
+import { declaredField } from '../vrml/Parser.js';
 import { Field } from './Field.js';
 
 export class Node {
-  /** @param {{name: string, fields: Map<string, {type: string, access: string, value: any}>}} type */
-  constructor(type, name = '') {
+  /** @param {{name: string, fields: Map<string, object>, inputs?: object}} type
+   *    inputs: what the events of a type do, name -> function (node, value)
+   *  @param {object} scene  the Scene that the node belongs to */
+  constructor(type, name, scene) {
     this.type = type;
     this.name = name;
+    this.scene = scene;
     this.fields = {};
     this.body = null;
+    this.names = null; // of a PROTO instance: the nodes of its body that have a DEF name
   }
 
   get typeName() { return this.type.name; }
 
-  /** The declaration of a field under any of its names, or undefined. */
-  declared(fieldName) {
-    const { fields } = this.type;
-    const own = fields.get(fieldName);
-    if (own !== undefined) return own;
-    const plain = fieldName.startsWith('set_') ? fieldName.slice(4)
-      : fieldName.endsWith('_changed') ? fieldName.slice(0, -8) : null;
-    const exposed = plain === null ? undefined : fields.get(plain);
-    return exposed?.access === 'exposedField' ? exposed : undefined;
-  }
-
   field(fieldName) {
     const made = this.fields[fieldName];
     if (made !== undefined) return made;
-    const declared = this.declared(fieldName);
+    const declared = declaredField(this.type, fieldName);
     if (declared === undefined) return null;
-    return this.fields[declared.name]
-      ??= new Field(declared.type, declared.access, declared.value);
+    return this.fields[declared.name] ?? this.setField(declared, declared.value);
+  }
+
+  setField(declared, value) {
+    const field = new Field(declared.type, declared.access, value);
+    const input = this.type.inputs?.[declared.name];
+    if (input !== undefined) field.listen((event) => input(this, event));
+    this.fields[declared.name] = field;
+    return field;
   }
 
   get(fieldName) {
     const made = this.fields[fieldName];
-    return made !== undefined ? made.value : this.declared(fieldName)?.value;
+    if (made !== undefined) return made.value;
+    const declared = declaredField(this.type, fieldName);
+    if (declared === undefined) return undefined;
+    const plain = this.fields[declared.name];
+    return plain !== undefined ? plain.value : declared.value;
   }
 }
 

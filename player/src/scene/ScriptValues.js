@@ -1,0 +1,129 @@
+// The values of fields as scripts see them, and back: nodes with their fields as properties, lists of vectors
+// with vectors as entries.
+
+import { LISTS } from '../vrml/values.js';
+import { MFNode } from './lists.js';
+
+const NODE = Symbol('node'), ARRAY = Symbol('array');
+
+// What a script takes a list of vectors for. Its entries are made when they are asked for.
+const VECTORS = {
+  get({ array, size, Single }, key) {
+    if (key === 'length') return array.length / size;
+    if (key === ARRAY) return array;
+    if (typeof key === 'symbol') return undefined;
+    const first = size * Number(key);
+    if (first >= 0) return first < array.length ? new Single(...array.subarray(first, first + size)) : undefined;
+    const list = [];
+    for (let n = 0; n < array.length; n += size) list.push(new Single(...array.subarray(n, n + size)));
+    return typeof list[key] === 'function' ? list[key].bind(list) : list[key];
+  },
+};
+
+// The shortest text that reads back to the same 32-bit number.
+function shortest(value) {
+  for (let digits = 6; digits < 9; ++digits) {
+    const text = value.toPrecision(digits);
+    if (Math.fround(text) === value) return String(Number(text));
+  }
+  return String(value);
+}
+
+function numbersAsText() { return `[ ${Array.from(this, shortest).join(', ')} ]`; }
+
+export class ScriptValues {
+  constructor(scene) {
+    this.scene = scene;
+    this.nodes = new WeakMap();
+    this.classes = new WeakMap();
+  }
+
+  toScript(type, value) {
+    switch (type) {
+      case 'SFNode': return value === null ? null : this.view(value);
+      case 'MFNode': return MFNode.from(value, (node) => this.view(node));
+      case 'MFVec2f': case 'MFVec3f': case 'MFColor': case 'MFRotation':
+        return new Proxy({ array: value, ...LISTS[type] }, VECTORS);
+      case 'MFFloat': case 'MFTime':
+        if (value.toString !== numbersAsText) Object.defineProperty(value, 'toString', { value: numbersAsText });
+        return value;
+      default: return value;
+    }
+  }
+
+  fromScript(type, value) {
+    switch (type) {
+      case 'SFBool': return Boolean(value);
+      case 'SFInt32': return Math.trunc(value) | 0;
+      case 'SFFloat': case 'SFTime': return Number(value);
+      case 'SFString': return String(value);
+      case 'SFNode': return value?.[NODE] ?? null;
+      case 'MFNode': return listOf(value).map((node) => node?.[NODE]).filter((node) => node !== undefined);
+      case 'MFString': return Array.from(listOf(value), String);
+      default: return type in LISTS ? packed(LISTS[type], value) : value;
+    }
+  }
+
+  view(node) {
+    let view = this.nodes.get(node);
+    if (view === undefined) {
+      const View = this.viewClass(node.type);
+      view = new View();
+      Object.defineProperty(view, NODE, { value: node });
+      this.nodes.set(node, view);
+    }
+    return view;
+  }
+
+  viewClass(type) {
+    const known = this.classes.get(type);
+    if (known !== undefined) return known;
+    const View = class {};
+    for (const [name, declared] of type.fields) {
+      const names = declared.access === 'exposedField' ? [name, `set_${name}`, `${name}_changed`] : [name];
+      for (const alias of names) {
+        if (!(alias in View.prototype)) Object.defineProperty(View.prototype, alias, this.property(declared));
+      }
+    }
+    this.classes.set(type, View);
+    return View;
+  }
+
+  property({ name, type, access }) {
+    const values = this;
+    return {
+      get() { return values.toScript(type, this[NODE].get(name)); },
+      set(value) {
+        const { events } = values.scene, node = this[NODE];
+        const field = node.field(name), given = values.fromScript(type, value);
+        if (access === 'eventIn' && node.type.body !== undefined) events.post(field, given);
+        else events.accept(field, given);
+      },
+    };
+  }
+}
+
+function listOf(value) { return Array.isArray(value) ? value : [value]; }
+
+function packed({ Type, size }, value) {
+  if (value instanceof Type) return value;
+  if (size === 1) return Type.from(listOf(value), Number);
+  if (value[ARRAY] !== undefined) return value[ARRAY];
+  const list = listOf(value), { length } = list;
+  const array = new Type(size * length);
+  if (size === 3 && length > 0 && list[0]?.x !== undefined) {
+    for (let n = 0, at = 0; n < length; ++n) {
+      const vector = list[n];
+      if (vector === undefined) {
+        at += 3;
+        continue;
+      }
+      array[at++] = vector.x;
+      array[at++] = vector.y;
+      array[at++] = vector.z;
+    }
+    return array;
+  }
+  list.forEach((single, n) => array.set(Object.values(single), n * size));
+  return array;
+}
