@@ -47,6 +47,16 @@
 //   pointer() finds the sensors itself, among the children of the lowest node in path that has any, and
 //   Anchors. scene.isSensitive(path) says whether there is one, for the pointer's shape.
 //
+// View (view/View.js), as player.js uses it
+//   new View(element)       makes its canvas in the element; runs the frames itself, and only while needed
+//   show(scene)             shows a scene from its bound Viewpoint, instead of the one before; null: none
+//   listen(event, callback) events: 'frame' {time, changed} after a frame was drawn, 'lost', 'restored'
+//   viewpoint(node, {jump}) goes to a Viewpoint (also when scene.listen('bound') tells of one)
+//   parallel                true or false: the projection
+//   still({width, height})  a promise of a Blob, PNG
+//   idle()                  a promise: textures are there and the picture is final
+//   dispose()
+//
 // Beyond VRML97 there is one type of geometry:
 //   Spheres { exposedField MFVec3f center [], MFColor color [], MFFloat transparency [], MFFloat radius [] }
 //   One ball for each center; entry i of the other lists is that of ball i. Where a list is too short:
