@@ -2,7 +2,7 @@
 //
 // usage: node compile.mjs [FOLDER]   FOLDER has VR_GRAPH.wrl, VR_NAV.wrl and VR_UI.wrl; default ../protos
 //
-// The module is src/scene/library.js. A PROTO in protos/ beside this file stands for the one of its name.
+// The module is src/scene/protos.js. A PROTO in protos/ beside this file stands for the one of its name.
 
 import { readdirSync, readFileSync, writeFileSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';
@@ -15,7 +15,7 @@ const FILES = ['VR_UI.wrl', 'VR_NAV.wrl', 'VR_GRAPH.wrl'];
 const LISTS = ['MFColor', 'MFFloat', 'MFInt32', 'MFNode', 'MFRotation', 'MFString', 'MFTime', 'MFVec2f', 'MFVec3f'];
 const SINGLES = ['SFColor', 'SFRotation', 'SFVec2f', 'SFVec3f'];
 
-/** Writes src/scene/library.js. */
+/** Writes src/scene/protos.js. */
 export function compile(folder = fileURLToPath(new URL('../protos/', HERE))) {
   const protos = new Map();
   for (const file of FILES) readProtos(`${folder}/${file}`, protos);
@@ -27,7 +27,7 @@ export function compile(folder = fileURLToPath(new URL('../protos/', HERE))) {
       protos.set(name, proto);
     }
   }
-  writeFileSync(new URL('src/scene/library.js', HERE), moduleOf(protos));
+  writeFileSync(new URL('src/scene/protos.js', HERE), moduleOf(protos));
 }
 
 /** Adds the PROTOs of a file to those known; returns the file's own. Each gets its text. */

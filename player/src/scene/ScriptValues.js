@@ -107,10 +107,13 @@ function listOf(value) { return Array.isArray(value) ? value : [value]; }
 
 function packed({ Type, size }, value) {
   if (value instanceof Type) return value;
-  if (size === 1) return Type.from(listOf(value), Number);
   if (value[ARRAY] !== undefined) return value[ARRAY];
   const list = listOf(value), { length } = list;
   const array = new Type(size * length);
+  if (size === 1) {
+    for (let n = 0; n < length; ++n) array[n] = list[n];
+    return array;
+  }
   if (size === 3 && length > 0 && list[0]?.x !== undefined) {
     for (let n = 0, at = 0; n < length; ++n) {
       const vector = list[n];
