@@ -1,9 +1,11 @@
 /// The public object model of Orvane: include this.
 #pragma once
 
+#include "orvane/automation/AutomationError.h"
 #include "orvane/control/ObjectModel.h"
 #include "orvane/control/OrvaneScaler.h"
 #include "orvane/control/OrvaneTemplateCtl.h"
+#include "orvane/forms/Container.h"
 #include "orvane/graphs/grid/AreaGraph.h"
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
@@ -13,7 +15,5 @@
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Container.h"
-#include "orvane/host/HostServices.h"
+#include "orvane/platform/HostServices.h"
 #include "orvane/scene/OrvaneModule.h"

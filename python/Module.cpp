@@ -3,8 +3,8 @@
 
 #include "Values.h"
 
+#include "orvane/automation/AutomationError.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/AutomationError.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -166,6 +166,8 @@ PYBIND11_MODULE(_orvane, module) {
   AddErrors(module);
   AddTables(module);
   AddObject(module);
+  AddCharts(module);
+  module.attr("version") = ORVANE_VERSION;
   module.def("is_row", IsRow);
   module.def("class_of", ClassOf);
   module.def("make_classes_with", MakeClassesWith);

@@ -1,8 +1,8 @@
 /// How Python values become late-bound values and back.
 #pragma once
 
-#include "orvane/host/Coercion.h"
-#include "orvane/host/Object.h"
+#include "orvane/automation/Coercion.h"
+#include "orvane/automation/Object.h"
 
 #include <memory>
 
@@ -30,6 +30,9 @@ host::Value ToValue(pybind11::handle value, host::Object& object, const host::Pl
 /// A value of the model as Python has it: a row as a tuple of floats, an object as one of the class
 /// that `ClassOf` gives.
 pybind11::object ToPython(const host::Value& value);
+
+/// The kinds of chart that tables become, and the call that makes them.
+void AddCharts(pybind11::module_& module);
 
 /// The Python class of a class of the model: the one that `makeClass` made of its table, once.
 pybind11::object ClassOf(const host::TypeInfo& type);

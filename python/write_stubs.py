@@ -23,6 +23,9 @@ _Entry = TypeVar("_Entry")
 __all__: list[str]
 ProtoFolder: Path
 
+__version__: str
+chart_kinds: list[str]
+
 def WriteProtos(folder: str | PathLike[str]) -> None: ...
 
 class AutomationError(Exception):
@@ -133,6 +136,8 @@ def class_(table):
     for member in table.members:
         text = getattr(made, member.name).__doc__
         lines += (method if member.is_method else property_)(member, text)
+    if hasattr(made, "save"):
+        lines += ["    def save(self, path: str | PathLike[str]) -> None:", *documented(made.save.__doc__)]
     items = [member for member in table.members if member.name == "Item"]
     if items and hasattr(made, "__len__"):
         lines += [
@@ -146,8 +151,21 @@ def enumeration(values):
     return ["", f"class {values.__name__}(IntEnum):", *(f"    {v.name} = {v.value}" for v in values)]
 
 
+def charts():
+    """The calls that make charts of tables."""
+    lines = ["", "def chart(kind: str, table: Any, **options: Any) -> Any: ..."]
+    for kind in _orvane.chart_kinds():
+        options = [
+            f"{option.name.replace('-', '_')}: {'Any' if option.values else 'bool'} = ..."
+            for option in kind.options
+        ]
+        name = kind.name.replace("-", "_")
+        lines.append(f"def {name}(table: Any, *, {', '.join(options)}) -> {kind.graph}: ...")
+    return lines
+
+
 def main(path):
-    lines = [HEADER.rstrip()]
+    lines = [HEADER.rstrip(), *charts()]
     for table in TABLES.values():
         lines += class_(table)
     for values in _classes._enumerations.values():

@@ -55,15 +55,13 @@ export async function start({ root, mounts = {}, port = 0 }) {
   };
 }
 
-// Serves the viewer page at the root of a folder of worlds, as if it were installed there, and what
-// else is mounted.
-export function startViewer(root, mounts = {}) {
+// Serves the viewer page at the root of a folder of worlds, as if it were installed there.
+export function startViewer(root) {
   const here = dirname(fileURLToPath(import.meta.url));
   const page = ['index.html', 'viewer.css', 'viewer.js'];
   return start({
     root,
     mounts: {
-      ...mounts,
       ...Object.fromEntries(page.map((file) => [`/${file}`, join(here, file)])),
       '/x_ite/': join(here, 'node_modules/x_ite/dist'),
     },

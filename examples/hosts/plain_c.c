@@ -2,7 +2,7 @@
  * by name. plain_c LIBRARY [OUT.wrl] */
 
 #include <dlfcn.h>
-#include <orvane/host/component.h>
+#include <orvane/server/component.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>

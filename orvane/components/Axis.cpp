@@ -1,8 +1,8 @@
 #include "orvane/components/Axis.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Trimmed.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Trimmed.h"
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 /// What the two kinds of axis share: labels, one a line of a single Text node, and a header.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/TextShape.h"
-#include "orvane/host/Object.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,7 +1,7 @@
 #include "orvane/components/ChartLegend.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

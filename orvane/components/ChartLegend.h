@@ -2,9 +2,9 @@
 /// viewer.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/VrmlNames.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/ShapeNodes.h"
 

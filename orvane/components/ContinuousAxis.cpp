@@ -1,8 +1,8 @@
 #include "orvane/components/ContinuousAxis.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/components/DescribeAxis.h"
 #include "orvane/components/NumberPicture.h"
-#include "orvane/host/Arithmetic.h"
 
 #include <vector>
 

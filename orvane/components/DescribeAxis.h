@@ -1,8 +1,8 @@
 /// The members that both kinds of axis show hosts, described once.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/components/Axis.h"
-#include "orvane/host/Describe.h"
 
 namespace orvane {
 

@@ -1,8 +1,8 @@
 /// The members that all legends show hosts, described once.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/components/ChartLegend.h"
-#include "orvane/host/Describe.h"
 
 namespace orvane {
 

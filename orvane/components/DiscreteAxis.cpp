@@ -1,7 +1,7 @@
 #include "orvane/components/DiscreteAxis.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/components/DescribeAxis.h"
-#include "orvane/host/Arithmetic.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 /// A row of clickable cones along an axis, each of which loads a world of its own.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/NavProtos.h"
 

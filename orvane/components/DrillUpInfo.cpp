@@ -1,7 +1,7 @@
 #include "orvane/components/DrillUpInfo.h"
 
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

@@ -1,8 +1,8 @@
 /// A clickable cone that loads another world.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/ShapeNodes.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 /// The box that a chart's data stands in.
 #pragma once
 
+#include "orvane/automation/Event.h"
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Event.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/ShapeNodes.h"
 

@@ -1,6 +1,6 @@
 #include "orvane/components/GridInteractivityInfo.h"
 
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

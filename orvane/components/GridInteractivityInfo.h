@@ -1,10 +1,10 @@
 /// The navigation of a grid chart: drill-up cone and two rows of drill-down cones.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/DrillDownInfo.h"
 #include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 
 #include <memory>
 

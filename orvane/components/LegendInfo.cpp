@@ -1,7 +1,7 @@
 #include "orvane/components/LegendInfo.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/components/DescribeLegend.h"
-#include "orvane/host/Arithmetic.h"
 
 namespace orvane {
 namespace {

@@ -1,8 +1,8 @@
 /// The lights of a chart's world.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/ViewNodes.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 /// Numbers as text, by a format picture.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <string>
 #include <string_view>

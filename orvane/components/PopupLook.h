@@ -1,10 +1,10 @@
 /// What the popups of series and of surfaces share.
 #pragma once
 
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Describe.h"
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Describe.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/frmMain.h"
 

@@ -1,8 +1,8 @@
 #include "orvane/components/SeriesPopupInfo.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Describe.h"
 
 namespace orvane {
 

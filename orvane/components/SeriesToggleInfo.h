@@ -1,8 +1,8 @@
 /// A column of check boxes, one a legend entry, with which a viewer switches series on and off.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/UiProtos.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "orvane/components/TextInfo.h"
 
-#include "orvane/host/Describe.h"
-#include "orvane/host/Trimmed.h"
+#include "orvane/automation/Describe.h"
+#include "orvane/automation/Trimmed.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

@@ -1,9 +1,9 @@
 /// A line of text in the world, such as a chart's title.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/TextShape.h"
-#include "orvane/host/Object.h"
 
 #include <cstdint>
 #include <memory>

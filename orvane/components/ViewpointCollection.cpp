@@ -1,7 +1,7 @@
 #include "orvane/components/ViewpointCollection.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

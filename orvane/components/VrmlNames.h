@@ -1,7 +1,7 @@
 /// Enumerations and the VRML strings that stand for them in node fields.
 #pragma once
 
-#include "orvane/host/Enumeration.h"
+#include "orvane/automation/Enumeration.h"
 
 #include <array>
 #include <cstdint>

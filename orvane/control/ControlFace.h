@@ -1,7 +1,7 @@
 /// The picture on the control's face.
 #pragma once
 
-#include "orvane/host/Picture.h"
+#include "orvane/forms/Picture.h"
 
 namespace orvane {
 

@@ -1,8 +1,8 @@
 /// The four entry points of the component server, which component.h documents.
 
 #include "orvane/control/OrvaneTemplateCtl.h"
-#include "orvane/host/ComponentObjects.h"
-#include "orvane/host/IniFile.h"
+#include "orvane/platform/IniFile.h"
+#include "orvane/server/ComponentObjects.h"
 
 #include <filesystem>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "orvane/control/GraphFactory.h"
 
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Describe.h"
 
 namespace orvane {
 

@@ -1,6 +1,7 @@
 /// Where hosts get their charts from.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/graphs/grid/AreaGraph.h"
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
@@ -10,7 +11,6 @@
 #include "orvane/graphs/surface/RCComboGraph.h"
 #include "orvane/graphs/surface/SCComboGraph.h"
 #include "orvane/graphs/surface/SurfaceGraph.h"
-#include "orvane/host/Object.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "orvane/control/MakeRelativePath.h"
 
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/AutomationError.h"
 
 #include <string_view>
 #include <utility>

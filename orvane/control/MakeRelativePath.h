@@ -1,7 +1,7 @@
 /// The way from one folder to another.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 /// The public object model as a whole: every class, and charts by name.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 #include <memory>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "orvane/control/OrvaneScaler.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/Describe.h"
 
 namespace orvane {
 

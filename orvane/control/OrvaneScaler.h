@@ -1,7 +1,7 @@
 /// A straight-line mapping from a host's data range into a chart's range.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 namespace orvane {
 

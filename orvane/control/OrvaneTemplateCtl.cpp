@@ -1,13 +1,13 @@
 #include "orvane/control/OrvaneTemplateCtl.h"
 
+#include "orvane/automation/Describe.h"
+#include "orvane/automation/ResumeNext.h"
+#include "orvane/automation/Trimmed.h"
 #include "orvane/control/ControlFace.h"
 #include "orvane/control/MakeRelativePath.h"
 #include "orvane/control/ProtoPath.h"
 #include "orvane/control/ProtoSettings.h"
-#include "orvane/host/Describe.h"
-#include "orvane/host/HostServices.h"
-#include "orvane/host/ResumeNext.h"
-#include "orvane/host/Trimmed.h"
+#include "orvane/platform/HostServices.h"
 #include "orvane/scene/OrvaneModule.h"
 
 namespace orvane {

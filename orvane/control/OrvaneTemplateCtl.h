@@ -3,7 +3,7 @@
 
 #include "orvane/control/GraphFactory.h"
 #include "orvane/control/OrvaneScaler.h"
-#include "orvane/host/Control.h"
+#include "orvane/forms/Control.h"
 
 #include <memory>
 #include <string>

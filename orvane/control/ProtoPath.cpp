@@ -1,9 +1,9 @@
 #include "orvane/control/ProtoPath.h"
 
+#include "orvane/automation/ResumeNext.h"
+#include "orvane/automation/Trimmed.h"
 #include "orvane/control/MakeRelativePath.h"
 #include "orvane/control/ProtoSettings.h"
-#include "orvane/host/ResumeNext.h"
-#include "orvane/host/Trimmed.h"
 
 namespace orvane {
 

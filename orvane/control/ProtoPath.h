@@ -1,8 +1,8 @@
 /// The property page on which a designer says where worlds find their PROTO files.
 #pragma once
 
-#include "orvane/host/PageControls.h"
-#include "orvane/host/PropertyPage.h"
+#include "orvane/forms/PageControls.h"
+#include "orvane/forms/PropertyPage.h"
 
 #include <array>
 #include <string>

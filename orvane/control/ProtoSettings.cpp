@@ -1,7 +1,7 @@
 #include "orvane/control/ProtoSettings.h"
 
-#include "orvane/host/Enumeration.h"
-#include "orvane/host/HostServices.h"
+#include "orvane/automation/Enumeration.h"
+#include "orvane/platform/HostServices.h"
 
 namespace orvane::ProtoSettings {
 namespace {

@@ -1,7 +1,7 @@
 /// The two settings that say where PROTO files and worlds are kept.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <string>
 

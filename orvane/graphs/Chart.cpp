@@ -16,7 +16,8 @@ Chart::Chart()
       m_viewpoints(std::make_shared<ViewpointCollection>()),
       m_lights(std::make_shared<LightCollection>()),
       m_root(scene::Create<scene::Transform>()),
-      m_routes(scene::CoreFactory()->CreateRouteList()) {}
+      m_routes(scene::CoreFactory()->CreateRouteList()),
+      m_extraRoutes(scene::CoreFactory()->CreateRouteList()) {}
 
 void Chart::Assemble(std::initializer_list<const ISceneRoot*> parts) {
   for (const auto* part : parts) m_root->children.Append(part->RootNode());
@@ -33,6 +34,9 @@ void Chart::Detach(std::initializer_list<const ISceneRoot*> parts) {
 void Chart::PrepareExport() {
   m_routes->ClearRoutes();
   Arrange();
+  for (const auto& route : m_extraRoutes->Routes()) {
+    m_routes->AddRoute(route.fromNode, route.fromEventOut, route.toNode, route.toEventIn);
+  }
 }
 
 bool Chart::ExportToFile(const std::string& fName) {

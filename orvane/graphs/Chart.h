@@ -1,12 +1,12 @@
 /// What all charts share: sky, title, viewpoints, lights, a root, and the export.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/BackgroundInfo.h"
 #include "orvane/components/LightCollection.h"
 #include "orvane/components/TextInfo.h"
 #include "orvane/components/ViewpointCollection.h"
 #include "orvane/graphs/IOrvaneGraph.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/RouteList.h"
 
 #include <initializer_list>
@@ -32,6 +32,10 @@ class ORVANE_API Chart : public host::Object, public IOrvaneGraph {
 
   std::shared_ptr<scene::Transform> RootNode() const override { return m_root; }
 
+  /// For C++: ROUTEs between nodes of the scene, the chart's or those that a program hangs into its
+  /// root, which each world has after the chart's own.
+  scene::RouteList& ExtraRoutes() { return *m_extraRoutes; }
+
  protected:
   Chart();
 
@@ -55,6 +59,7 @@ class ORVANE_API Chart : public host::Object, public IOrvaneGraph {
   std::shared_ptr<LightCollection> m_lights;
   std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::RouteList> m_routes;
+  std::shared_ptr<scene::RouteList> m_extraRoutes;
 };
 
 }  // namespace orvane

@@ -2,8 +2,8 @@
 /// put members of their own.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/graphs/Chart.h"
-#include "orvane/host/Describe.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "orvane/graphs/GridPlacement.h"
 
-#include "orvane/host/Arithmetic.h"
+#include "orvane/automation/Arithmetic.h"
 
 namespace orvane {
 namespace {

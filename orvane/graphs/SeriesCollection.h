@@ -1,7 +1,7 @@
 /// The ordered list in which every chart keeps its series, surfaces, slices or point frames.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "orvane/scene/Factory.h"
 
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/NavProtos.h"

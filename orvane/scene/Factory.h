@@ -1,7 +1,7 @@
 /// What makes nodes, free-standing fields, writers and route lists by name.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 #include "orvane/scene/Field.h"
 #include "orvane/scene/Node.h"
 #include "orvane/scene/RouteList.h"

@@ -1,7 +1,7 @@
 /// What every field of a node has in common, and the interface of a node as a list of entries.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 #include <functional>
 #include <limits>

@@ -1,6 +1,6 @@
 #include "orvane/scene/Node.h"
 
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/SceneError.h"
 #include "orvane/scene/Utf8.h"
 

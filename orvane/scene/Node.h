@@ -1,7 +1,7 @@
 /// Nodes: typed field objects in VRML97 order, a DEF name, and for PROTO instances their source.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 #include "orvane/scene/Field.h"
 
 #include <memory>

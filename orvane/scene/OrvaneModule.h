@@ -1,7 +1,7 @@
 /// What all charts of a process share.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 /// The ROUTE statements of a world, in the order in which they were added.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 
 #include <memory>
 #include <string>

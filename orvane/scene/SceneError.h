@@ -1,7 +1,7 @@
 /// Errors of the scene library: raised under its own name, with numbers of its own.
 #pragma once
 
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/AutomationError.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 /// The text of a world: the one traversal that both writers share.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <charconv>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "orvane/scene/SingleFields.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/Node.h"
 #include "orvane/scene/SceneError.h"
 #include "orvane/scene/SceneWriter.h"

@@ -1,7 +1,7 @@
 #include "orvane/scene/Traversers.h"
 
-#include "orvane/host/Describe.h"
-#include "orvane/host/FileReplacement.h"
+#include "orvane/automation/Describe.h"
+#include "orvane/platform/FileReplacement.h"
 #include "orvane/scene/SceneError.h"
 
 #include <filesystem>

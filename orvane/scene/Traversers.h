@@ -1,7 +1,7 @@
 /// The two writers: a scene as a VRML97 file, or as a string.
 #pragma once
 
-#include "orvane/host/Object.h"
+#include "orvane/automation/Object.h"
 #include "orvane/scene/Node.h"
 #include "orvane/scene/RouteList.h"
 #include "orvane/scene/SceneWriter.h"

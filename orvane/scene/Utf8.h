@@ -1,7 +1,7 @@
 /// UTF-8 as VRML97 text requires it.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 
 #include <cstddef>
 #include <string_view>

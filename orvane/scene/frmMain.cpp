@@ -1,6 +1,6 @@
 #include "orvane/scene/frmMain.h"
 
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Describe.h"
 
 namespace orvane::scene {
 

@@ -11,14 +11,21 @@ takes. Make a chart, set its properties, export it:
     orvane.WriteProtos(".")
 
 What is rejected raises AutomationError and changes nothing.
+
+From a table to a chart it is one call, for every kind of chart:
+
+    orvane.column(frame, title="Rain in Seattle", grouped=True).save("rain.wrl")
 """
 
+import os
 import shutil
 from pathlib import Path
 
-from . import _classes
+from . import _charts, _classes
+from ._charts import chart, chart_kinds
 from ._classes import Object
 from ._orvane import AutomationError, UnknownMember
+from ._orvane import version as __version__
 
 ProtoFolder = Path(__file__).parent / "protos"
 """The folder with the three PROTO files that every world refers to."""
@@ -30,6 +37,31 @@ def WriteProtos(folder):
     shutil.copytree(ProtoFolder, folder, dirs_exist_ok=True)
 
 
+def _save(self, path):
+    """Writes the chart as a world to `path`, with the PROTO files that the world refers to beside
+    it. Raises OSError."""
+    path = Path(path)
+    if path.suffix.lower() != ".wrl":
+        raise ValueError(f"{path}: a chart is saved as .wrl")
+    if not self.ExportToFile(os.fsdecode(path)):
+        raise OSError(f"{path} cannot be written")
+    WriteProtos(path.parent)
+
+
 _model = _classes.make_all()
+_model |= _charts.functions
+for _class in _model.values():
+    if hasattr(_class, "ExportToFile"):
+        _class.save = _save
 globals().update(_model)
-__all__ = ["AutomationError", "Object", "ProtoFolder", "UnknownMember", "WriteProtos", *_model]
+__all__ = [
+    "AutomationError",
+    "Object",
+    "ProtoFolder",
+    "UnknownMember",
+    "WriteProtos",
+    "__version__",
+    "chart",
+    "chart_kinds",
+    *_model,
+]

@@ -2,8 +2,8 @@
 
 #include "support/Raises.h"
 
+#include "orvane/automation/Coercion.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/Coercion.h"
 
 #include <map>
 #include <regex>

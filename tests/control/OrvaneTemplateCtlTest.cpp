@@ -4,7 +4,7 @@
 #include "support/Raises.h"
 
 #include "orvane/control/OrvaneTemplateCtl.h"
-#include "orvane/host/Container.h"
+#include "orvane/forms/Container.h"
 #include "orvane/scene/OrvaneModule.h"
 
 #include <optional>

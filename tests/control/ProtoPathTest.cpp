@@ -5,7 +5,7 @@
 
 #include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/control/ProtoPath.h"
-#include "orvane/host/Container.h"
+#include "orvane/forms/Container.h"
 #include "orvane/scene/OrvaneModule.h"
 
 #include <gtest/gtest.h>

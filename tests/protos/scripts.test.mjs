@@ -1,38 +1,29 @@
-// The Scripts of the PROTO files: ECMAScript of the 1997 kind (ISO/IEC 14772-1, annex C) that parses.
+// Every Script is ECMAScript of the 1997 kind (ISO/IEC 14772-1, annex C), names nothing that its Script
+// node does not declare, and has no function that nobody calls.
 
 import assert from 'node:assert/strict';
-import { spawnSync } from 'node:child_process';
-import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
+import { Linter } from 'eslint';
+import { GLOBALS, readScripts } from './scripts.mjs';
 
-const FOLDER = new URL('../../protos/', import.meta.url);
-const FILES = ['VR_GRAPH.wrl', 'VR_NAV.wrl', 'VR_UI.wrl'];
-
-// Words and signs that came after the third edition of the standard.
-const NEWER = /\b(let|const|class|yield|async|await|of|import|export)\b|=>|`|\.\.\.|\?\?|\?\.|\*\*/;
-
-function scriptsOf(file) {
-  const text = readFileSync(new URL(file, FOLDER), 'utf8');
-  return [...text.matchAll(/"javascript:((?:[^"\\]|\\.)*)"/g)].map((match) => ({
-    code: match[1].replace(/\\(.)/g, '$1'),
-    line: text.slice(0, match.index).split('\n').length,
-  }));
-}
-
-// What a script says beside its comments and strings.
-function bare(code) {
-  return code.replace(/\/\/.*|\/\*[^]*?\*\//g, '').replace(/'(\\.|[^'\\])*'/g, "''");
-}
-
-for (const file of FILES) {
-  test(`scripts of ${file} parse and use no later syntax`, () => {
-    const scripts = scriptsOf(file);
-    assert.ok(scripts.length > 0);
-    for (const { code, line } of scripts) {
-      const check = spawnSync(process.execPath, ['--check', '-'], { input: code, encoding: 'utf8' });
-      assert.equal(check.status, 0, `${file}:${line}: ${check.stderr}`);
-      const newer = bare(code).match(NEWER);
-      assert.equal(newer, null, `${file}:${line}: "${newer?.[0]}"`);
-    }
+for (const { proto, name, declared, code } of readScripts()) {
+  test(`the script ${name ?? ''} of qm4_${proto}`, () => {
+    const fields = [...declared.matchAll(/^ *(?:field|eventOut) \w+ (\w+)/gm)].map(([, field]) => field);
+    const events = [...declared.matchAll(/^ *eventIn \w+ (\w+)/gm)].map(([, event]) => event);
+    const called = ['initialize', 'eventsProcessed', ...events].join('|');
+    const complaints = new Linter().verify(code, {
+      languageOptions: {
+        ecmaVersion: 3,
+        sourceType: 'script',
+        globals: Object.fromEntries([...GLOBALS, ...fields].map((word) => [word, 'writable'])),
+      },
+      rules: {
+        'no-undef': 'error',
+        'no-redeclare': ['error', { builtinGlobals: false }],
+        'no-unused-vars': ['error', { args: 'none', varsIgnorePattern: `^(${called})$` }],
+      },
+    });
+    assert.deepEqual(complaints.map(({ line, message }) => `${line}: ${message}`), []);
+    for (const event of events) assert.match(code, new RegExp(`^ *function ${event}\\(`, 'm'));
   });
 }

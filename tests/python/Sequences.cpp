@@ -2,9 +2,9 @@
 /// of each, one a line: what every step gave or raised, and the world. The Python tests apply the
 /// same sequences through the package and hold the two against each other.
 
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Object.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Object.h"
 
 #include <cstdint>
 #include <cstdlib>

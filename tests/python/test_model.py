@@ -225,5 +225,58 @@ class Lifetimes(unittest.TestCase):
             item(1)
 
 
+class ChartsFromTables(unittest.TestCase):
+    def test_tables_of_every_form_make_one_chart(self):
+        class Pandas:
+            """A data frame with an index of its own, in so far as tables of it are read."""
+
+            index = type("Index", (list,), {"name": "m"})(["x", "y"])
+            columns = ["a", "b"]
+
+            def reset_index(self):
+                rows = [("x", 1, 2.5), ("y", 3, float("nan"))]
+                return type("Frame", (), {
+                    "columns": ["m", "a", "b"], "index": type("Index", (list,), {"name": None})([0, 1]),
+                    "itertuples": lambda self, index, name: rows})()
+
+            itertuples = None
+
+        polars = type("Frame", (), {
+            "columns": ["m", "a", "b"], "iter_rows": lambda self: [("x", 1, 2.5), ("y", 3, None)]})()
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder, "t.csv")
+            path.write_text("m,a,b\nx,1,2.5\ny,3,\n")
+            tables = {
+                "path": path,
+                "columns": {"m": ["x", "y"], "a": numpy.array([1, 3]), "b": [2.5, None]},
+                "rows": [["m", "a", "b"], ["x", 1, 2.5], ["y", numpy.float32(3), ""]],
+                "dicts": [{"m": "x", "a": 1, "b": 2.5}, {"m": "y", "a": 3}],
+                "numpy": numpy.array([("x", 1, 2.5), ("y", 3, numpy.nan)],
+                                     [("m", "U1"), ("a", int), ("b", float)]),
+                "pandas": Pandas(),
+                "polars": polars,
+            }
+            worlds = {name: orvane.area(table, missing="zero", title="T").ExportToString(True, True)
+                      for name, table in tables.items()}
+            self.assertEqual(worlds, dict.fromkeys(tables, worlds["path"]))
+            world = pathlib.Path(folder, "t.wrl")
+            orvane.chart("column", path, missing="zero", grouped=True, size=[4, 3, 2]).save(world)
+            self.assertIn("qm4_OutlinedColumnSeries", world.read_text())
+            self.assertTrue(pathlib.Path(folder, "VR_GRAPH.wrl").exists())
+
+    def test_what_is_wrong_is_said(self):
+        table = {"m": ["x"], "a": [1]}
+        for call, message in {
+            lambda: orvane.chart("cake", table): 'there is no chart "cake"',
+            lambda: orvane.area(table, spin=True): 'has no option "spin"',
+            lambda: orvane.area(table, background="red"): "background: red is not a colour",
+            lambda: orvane.area({"m": ["x"], "a": ["q"]}): 'table:2:3: "q" is not a number',
+            lambda: orvane.column_surface(table): "surface is required",
+            lambda: orvane.area(table).save("t.xyz"): "t.xyz: a chart is saved as .wrl",
+        }.items():
+            with self.assertRaisesRegex(ValueError, message):
+                call()
+
+
 if __name__ == "__main__":
     unittest.main()

@@ -1,7 +1,7 @@
 /// A host for tests: settings in memory, and messages written down.
 #pragma once
 
-#include "orvane/host/HostServices.h"
+#include "orvane/platform/HostServices.h"
 
 #include <map>
 #include <memory>

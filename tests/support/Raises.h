@@ -1,7 +1,7 @@
 /// What a call raises, in a form that tests compare with one line.
 #pragma once
 
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/AutomationError.h"
 
 #include <functional>
 #include <initializer_list>

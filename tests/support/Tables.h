@@ -1,7 +1,7 @@
 /// What the tests of files and of charts from tables share.
 #pragma once
 
-#include "Table.h"
+#include "orvane/tables/read/Table.h"
 
 #include <string>
 #include <utility>
@@ -16,14 +16,14 @@ template <class F>
 std::string ComplaintOf(F&& call) {
   try {
     std::forward<F>(call)();
-  } catch (const tool::FileError& error) {
+  } catch (const tables::FileError& error) {
     return error.what();
   }
   return "no complaint";
 }
 
-inline tool::Table TableOf(const std::string& text, const std::string& file = "t.csv") {
-  return tool::ReadTable(tool::Source(file, text), tool::MissingCell::Error);
+inline tables::Table TableOf(const std::string& text, const std::string& file = "t.csv") {
+  return tables::ReadTable(tables::Source(file, text), tables::MissingCell::Error);
 }
 
 inline void ExpectNear(const std::vector<float>& actual, const std::vector<float>& expected) {

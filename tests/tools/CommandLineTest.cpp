@@ -158,7 +158,7 @@ TEST_F(CommandLine, BuildsModelsAndWritesProtoFiles) {
 
   EXPECT_EQ(Orvane("protos a/b").status, 0);
   for (const ProtoFile& proto : ProtoFiles()) {
-    EXPECT_EQ(FileText("a/b/" + proto.name), FileText(ORVANE_SOURCE_DIR "/protos/" + proto.name));
+    EXPECT_EQ(FileText("a/b/" + proto.name), FileText(ORVANE_PROTO_DIR "/" + proto.name));
     EXPECT_EQ(FileText(proto.name), proto.text);
   }
 }
@@ -204,20 +204,21 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
        "bad.json:1:47: GridProps.Width: The graph must be wider than 0\n"},
       {1, "protos o.wrl", "o.wrl: cannot be made: Not a directory\n"},
       {2, "", "A subcommand is required\n"},
-      {2, "chart cake", "A subcommand is required\n"},
+      {2, "chart cake", "there is no chart \"cake\"; there are area, column, ribbon, pie, "},
       {2, "chart area t.csv", "--output is required\n"},
       {2, "chart area -o o.wrl", "table is required\n"},
       {2, "chart area t.csv -o o.wrl --proto-prefix p", "--proto-prefix: must end in / or \\\n"},
-      {2, "chart area t.csv -o o.wrl --size 1,2", "--size: At least 3 required but received 2\n"},
+      {2, "chart area t.csv -o o.wrl --size 1,2", "--size: 1,2 is not three numbers: W,H,D\n"},
       {2, "chart area t.csv -o o.wrl --size 1,0,3",
        "--size: 0 is not a number from 0.1 to 10000\n"},
       {2, "chart area t.csv -o o.wrl --size nan,1,3",
        "--size: nan is not a number from 0.1 to 10000\n"},
       {2, "chart area t.csv -o o.wrl --background red",
        "--background: red is not a colour (#rrggbb)\n"},
-      {2, "chart area t.csv -o o.wrl --missing one", "--missing: one is not zero\n"},
+      {2, "chart area t.csv -o o.wrl --missing one", "--missing: one is not one of zero\n"},
       {1, "chart pie negative.csv -o o.wrl", "negative.csv:2:3: the value -1 is negative\n"},
-      {2, "chart pie t.csv --style flat -o o.wrl", "--style: flat not in {"},
+      {2, "chart pie t.csv --style flat -o o.wrl",
+       "--style: flat is not one of outlined|rounded|ring\n"},
       {1, "chart density bad.csv -o o.wrl", "bad.csv:2:1: \"x\" is not a number\n"},
       {2, "chart density bad.csv -o o.wrl --sigma 0",
        "--sigma: 0 is not a number from 0.001 to 10000\n"},

@@ -15,7 +15,7 @@ using tests::ComplaintOf;
 /// The chart that "{"chart": "AreaGraph", `members`}" makes.
 std::shared_ptr<AreaGraph> Build(const std::string& members) {
   const std::string model = "{\"chart\": \"AreaGraph\",\n" + members + "}";
-  return std::dynamic_pointer_cast<AreaGraph>(BuildModel(Source("m.json", model)));
+  return std::dynamic_pointer_cast<AreaGraph>(BuildModel(tables::Source("m.json", model)));
 }
 
 TEST(Model, SetsPropertiesOfAllKinds) {
@@ -117,10 +117,10 @@ TEST(Model, IsAJsonObjectThatNamesItsChart) {
       {"{\n \"chart\": \"Chart\"}", "m.json:2:11: chart: there is no chart class \"Chart\""},
   };
   for (const auto& [model, message] : models) {
-    EXPECT_EQ(ComplaintOf([&] { BuildModel(Source("m.json", model)); }), message);
+    EXPECT_EQ(ComplaintOf([&] { BuildModel(tables::Source("m.json", model)); }), message);
   }
   const std::string deep = std::string(100000, '[');
-  EXPECT_THROW(BuildModel(Source("m.json", deep)), FileError);
+  EXPECT_THROW(BuildModel(tables::Source("m.json", deep)), tables::FileError);
 }
 
 TEST(Model, OfTheDocumentationIsTheExampleAndBuilds) {
@@ -128,7 +128,7 @@ TEST(Model, OfTheDocumentationIsTheExampleAndBuilds) {
   const std::string page = tests::FileText(ORVANE_SOURCE_DIR "/docs/command-line.md");
   ASSERT_FALSE(example.empty());
   EXPECT_NE(page.find("```json\n" + example + "```\n"), std::string::npos);
-  const std::string world = BuildWorld(Source("rain.json", example));
+  const std::string world = BuildWorld(tables::Source("rain.json", example));
   for (const char* part : {"\"Rain in Seattle, spring\"", "[ 4.8, 2.122, 1.6 ]", "\"250 mm\"",
                            "ROUTE CHECK_BOX_2.value_changed TO SERIES_TOGGLE_2.set_contentsExist",
                            "ROUTE X_AXIS_DRILL_DOWN.mouseClickedIndex TO X_AXIS_ROUTER"}) {

@@ -1,261 +1,54 @@
 #include "ChartCommands.h"
 
-#include "ChartOptions.h"
-#include "CloudTable.h"
-#include "DensityChart.h"
-#include "PieChart.h"
-#include "ScatterChart.h"
-#include "SeriesCharts.h"
-#include "Source.h"
-#include "SurfaceCharts.h"
-#include "Table.h"
 #include "WorldOutput.h"
 
-#include <functional>
-#include <map>
+#include "orvane/tables/ChartKinds.h"
+
 #include <memory>
-#include <optional>
-#include <sstream>
 #include <string>
-#include <vector>
 
 namespace orvane::tool {
 namespace {
 
-/// What the commands that chart a table are given.
+/// What a command that charts a table is given.
 struct ChartRequest {
   std::string table;
-  ChartOptions options;
+  tables::ChartOptions options;
   WorldOutput output;
 };
 
-/// Lets through numbers from `least` to `most`.
-CLI::Validator NumberFrom(double least, double most) {
-  const auto check = [least, most](const std::string& text) {
-    double number = 0;
-    if (CLI::detail::lexical_cast(text, number) && number >= least && number <= most) {
-      return std::string();
+void AddOption(CLI::App& command, const tables::Option& option, tables::ChartOptions& options) {
+  const std::string name = "--" + option.name;
+  const auto set = [&option, &options, name](const std::string& text) {
+    try {
+      option.set(options, text);
+    } catch (const tables::OptionError& error) {
+      throw CLI::ValidationError(name, error.what());
     }
-    std::ostringstream complaint;
-    complaint << text << " is not a number from " << least << " to " << most;
-    return complaint.str();
   };
-  return {check, ""};
+  CLI::Option* added = option.values.empty()
+                           ? command.add_flag_callback(
+                                 name, [set] { set(""); }, option.help)
+                           : command.add_option_function<std::string>(name, set, option.help)
+                                 ->type_name(option.values);
+  added->required(option.isRequired);
+  if (!option.excludes.empty()) added->excludes("--" + option.excludes);
 }
 
-/// Title and colours, which every chart has.
-void AddLookOptions(CLI::App& command, ChartOptions& options) {
-  command.add_option("--title", options.title, "Title above the chart");
-
-  const auto isColor = [](const std::string& text) {
-    return ParseColor(text) ? std::string() : text + " is not a colour (#rrggbb)";
-  };
-  const auto setBackground = [&options](const std::string& text) {
-    options.background = *ParseColor(text);
-  };
-  command
-      .add_option_function<std::string>("--background", setBackground,
-                                        "Colour behind the chart; texts and lines go with it")
-      ->type_name("#rrggbb")
-      ->check(CLI::Validator(isColor, ""));
-}
-
-void AddToggleOption(CLI::App& command, ChartOptions& options) {
-  command.add_flag_callback(
-      "--no-toggles", [&options] { options.useToggles = false; },
-      "Leave out the legend's check boxes");
-}
-
-/// What charts of all kinds but points take. `columns` says what the table holds.
-void AddChartOptions(CLI::App& command, ChartRequest& request, const std::string& columns) {
-  ChartOptions& options = request.options;
-  command.add_option("table", request.table, "CSV table: " + columns)
+void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostream& out,
+                     std::ostream& err) {
+  CLI::App& command = *charts.add_subcommand(kind.name, kind.help);
+  const auto request = std::make_shared<ChartRequest>();
+  command.add_option("table", request->table, "CSV table: " + kind.table)
       ->required()
       ->type_name("DATA.csv");
-  AddLookOptions(command, options);
-  const auto isZero = [](const std::string& text) {
-    return text == "zero" ? std::string() : text + " is not zero";
-  };
-  command.add_option("--missing", "What an empty cell stands for; left out, it is an error")
-      ->type_name("zero")
-      ->check(CLI::Validator(isZero, ""))
-      ->each([&options](const std::string&) { options.missing = MissingCell::Zero; });
-  AddToggleOption(command, options);
-  AddOutputOptions(command, request.output);
-}
-
-void AddSizeOption(CLI::App& command, ChartOptions& options) {
-  const auto setSize = [&options](const std::vector<float>& extents) {
-    options.size = GridSize{extents[0], extents[1], extents[2]};
-  };
-  command
-      .add_option_function<std::vector<float>>(
-          "--size", setSize, "Extents of the grid in scene units; left out, fitted to the table")
-      ->type_name("W,H,D")
-      ->delimiter(',')
-      ->expected(3)
-      ->check(NumberFrom(kLeastExtent, kMostExtent));
-}
-
-void AddPopupOption(CLI::App& command, ChartOptions& options) {
-  command.add_flag_callback(
-      "--no-popups", [&options] { options.usePopups = false; },
-      "Leave out the texts shown at a value");
-}
-
-/// Adds an option that takes one of the names in `choices`.
-template <class T>
-void AddChoice(CLI::App& command, const std::string& name, T& choice,
-               const std::map<std::string, T>& choices, const std::string& names,
-               const std::string& text) {
-  command
-      .add_option_function<std::string>(
-          name, [&choice, choices](const std::string& chosen) { choice = choices.at(chosen); },
-          text)
-      ->type_name(names)
-      ->check(CLI::IsMember(choices));
-}
-
-void AddStyleOption(CLI::App& command, ChartOptions& options) {
-  AddChoice(command, "--style", options.isRounded, {{"outlined", false}, {"rounded", true}},
-            "outlined|rounded", "Edges of the shapes; left out, outlined");
-}
-
-void AddGroupingOptions(CLI::App& command, ChartOptions& options) {
-  auto* grouped = command.add_flag_callback(
-      "--grouped", [&options] { options.isGrouped = true; }, "Series side by side in each cell");
-  command
-      .add_flag_callback(
-          "--stacked-rows", [&options] { options.isGrouped = false; },
-          "A row for each series, one behind the other: the default")
-      ->excludes(grouped);
-}
-
-void AddSurfaceOptions(CLI::App& command, ChartOptions& options) {
-  command
-      .add_option(
-          "--surface", options.surface,
-          "CSV grid of the surface: the rows and columns of the table, its name in the corner")
-      ->required()
-      ->type_name("GRID.csv");
-  AddStyleOption(command, options);
-}
-
-Table ReadSurface(const ChartOptions& options) {
-  return ReadTable(Source::Read(options.surface), options.missing);
-}
-
-using MakeChart = std::function<std::shared_ptr<Chart>(const Table&, const ChartOptions&)>;
-
-/// Adds the command "chart `name`", which writes the world of what `makeChart` makes of its table.
-/// `addOptions(command, options)` adds the options of this kind of chart.
-void AddChartCommand(CLI::App& charts, const std::string& name, const std::string& text,
-                     std::ostream& out, const MakeChart& makeChart,
-                     const std::function<void(CLI::App&, ChartOptions&)>& addOptions) {
-  CLI::App& command = *charts.add_subcommand(name, text);
-  const auto request = std::make_shared<ChartRequest>();
-  AddChartOptions(command, *request,
-                  "category labels in the first column, series names in the header");
-  AddSizeOption(command, request->options);
-  AddPopupOption(command, request->options);
-  addOptions(command, request->options);
-  command.callback([request, makeChart, &out] {
-    WriteWorld(request->output, out, [&] {
-      const Table table = ReadTable(Source::Read(request->table), request->options.missing);
-      return makeChart(table, request->options)->ExportToString(true, true);
-    });
-  });
-}
-
-void AddPieCommand(CLI::App& charts, std::ostream& out) {
-  CLI::App& command = *charts.add_subcommand("pie", "A pie of slices that can be pulled out");
-  const auto request = std::make_shared<ChartRequest>();
-  const auto pie = std::make_shared<PieOptions>();
-  AddChartOptions(command, *request, "labels, values and, on demand, heights, below a header");
-  AddChoice(
-      command, "--style", pie->style,
-      {{"outlined", PieStyle::Outlined}, {"rounded", PieStyle::Rounded}, {"ring", PieStyle::Ring}},
-      "outlined|rounded|ring", "Shape of the slices; left out, outlined");
-  AddChoice(command, "--labels", pie->labels,
-            {{"always", PieLabels::Always}, {"touch", PieLabels::Touch}}, "always|touch",
-            "When slices show their labels; left out, while they are touched");
-  command.add_flag_callback(
-      "--spin", [pie] { pie->useSpinAxis = true; }, "An axis that turns the pie");
-  command.callback([request, pie, &out] {
-    WriteWorld(request->output, out, [&] {
-      const auto shares = ReadPieTable(Source::Read(request->table), request->options.missing);
-      return MakePieChart(shares, request->options, *pie)->ExportToString(true, true);
-    });
-  });
-}
-
-void AddScatterCommand(CLI::App& charts, std::ostream& out) {
-  struct Request {
-    std::string table;
-    ScatterOptions options;
-    WorldOutput output;
-  };
-  CLI::App& command = *charts.add_subcommand("scatter", "Points in space, still or animated");
-  const auto request = std::make_shared<Request>();
-  ScatterOptions& options = request->options;
-  command
-      .add_option("table", request->table,
-                  "CSV table: columns x, y, z, and if need be size, color or group, and frame")
-      ->required()
-      ->type_name("DATA.csv");
-  AddLookOptions(command, options);
-  AddSizeOption(command, options);
-  AddChoice<AnimationStyle>(
-      command, "--animate", options.animation,
-      {{"smooth", AnimationStyle::VRML_ANALOG}, {"slider", AnimationStyle::VRML_DISCRETE}},
-      "smooth|slider", "Points that move, or a slider that picks the frame; left out, smooth");
-  AddChoice<LoopStyle>(command, "--loop", options.loop,
-                       {{"continuous", LoopStyle::VRML_LOOP_CONTINUOUS},
-                        {"break", LoopStyle::VRML_LOOP_BREAK},
-                        {"back-and-forth", LoopStyle::VRML_BACK_AND_FORTH},
-                        {"none", LoopStyle::VRML_NO_LOOP}},
-                       "continuous|break|back-and-forth|none",
-                       "What points do after the last frame; left out, break");
-  command
-      .add_option("--frame-seconds", options.frameSeconds,
-                  "Time from one frame to the next; left out, 1")
-      ->type_name("S")
-      ->check(NumberFrom(1, 3600));
+  for (const auto& option : kind.options) AddOption(command, option, request->options);
   AddOutputOptions(command, request->output);
-  command.callback([request, &out] {
+  command.callback([request, &kind, &out, &err] {
     WriteWorld(request->output, out, [&] {
-      return ScatterWorld(ReadPointTable(Source::Read(request->table)), request->options);
-    });
-  });
-}
-
-/// Adds "chart density", which says on `err` which kernel width it took when none was given.
-void AddDensityCommand(CLI::App& charts, std::ostream& out, std::ostream& err) {
-  CLI::App& command =
-      *charts.add_subcommand("density", "Hills where points lie thickly, one for each group");
-  const auto request = std::make_shared<ChartRequest>();
-  const auto sigma = std::make_shared<std::optional<float>>();
-  command
-      .add_option("points", request->table,
-                  "CSV table: x and z of the points and, in a third column, their groups")
-      ->required()
-      ->type_name("POINTS.csv");
-  AddLookOptions(command, request->options);
-  AddSizeOption(command, request->options);
-  AddToggleOption(command, request->options);
-  command
-      .add_option("--sigma", *sigma,
-                  "Width of the hill around a point in scene units;"
-                  " left out, by Silverman's rule of thumb")
-      ->type_name("WIDTH")
-      ->check(NumberFrom(kLeastSigma, kMostExtent));
-  AddOutputOptions(command, request->output);
-  command.callback([request, sigma, &out, &err] {
-    WriteWorld(request->output, out, [&] {
-      const CloudTable clouds = ReadCloudTable(Source::Read(request->table));
-      const auto chart = MakeDensityChart(clouds, *sigma, request->options);
-      if (!*sigma) err << "--sigma " << chart->Sigma() << " by Silverman's rule of thumb\n";
-      return chart->ExportToString(true, true);
+      const auto made = kind.make(tables::Source::Read(request->table), request->options);
+      for (const auto& remark : made.remarks) err << remark << '\n';
+      return made.chart->ExportToString(true, true);
     });
   });
 }
@@ -264,33 +57,17 @@ void AddDensityCommand(CLI::App& charts, std::ostream& out, std::ostream& err) {
 
 void AddChartCommands(CLI::App& app, std::ostream& out, std::ostream& err) {
   CLI::App& charts = *app.add_subcommand("chart", "Chart a table of numbers");
-  charts.require_subcommand(1);
-  AddChartCommand(charts, "area", "Areas, one behind the other", out, MakeAreaChart,
-                  [](CLI::App&, ChartOptions&) {});
-  AddChartCommand(charts, "column", "Columns, in rows or side by side", out, MakeColumnChart,
-                  [](CLI::App& command, ChartOptions& options) {
-                    AddStyleOption(command, options);
-                    AddGroupingOptions(command, options);
-                  });
-  AddChartCommand(charts, "ribbon", "Ribbons, one behind the other", out, MakeRibbonChart,
-                  AddStyleOption);
-  AddPieCommand(charts, out);
-  AddChartCommand(charts, "surface", "A surface over a grid of numbers", out, MakeSurfaceChart,
-                  [](CLI::App&, ChartOptions&) {});
-  AddChartCommand(
-      charts, "column-surface", "Columns in rows, and a surface over them", out,
-      [](const Table& table, const ChartOptions& options) {
-        return MakeColumnSurfaceChart(table, ReadSurface(options), options);
-      },
-      AddSurfaceOptions);
-  AddChartCommand(
-      charts, "ribbon-surface", "Ribbons, one behind the other, and a surface over them", out,
-      [](const Table& table, const ChartOptions& options) {
-        return MakeRibbonSurfaceChart(table, ReadSurface(options), options);
-      },
-      AddSurfaceOptions);
-  AddScatterCommand(charts, out);
-  AddDensityCommand(charts, out, err);
+  // What is no kind of chart is told the kinds that there are.
+  charts.require_subcommand(0, 1)->allow_extras();
+  charts.callback([&charts] {
+    if (!charts.get_subcommands().empty()) return;
+    try {
+      tables::ChartKindOf(charts.remaining_size() > 0 ? charts.remaining().front() : "");
+    } catch (const tables::OptionError& error) {
+      throw CLI::ValidationError(error.what());
+    }
+  });
+  for (const auto& kind : tables::ChartKinds()) AddChartCommand(charts, kind, out, err);
 }
 
 }  // namespace orvane::tool

@@ -4,11 +4,11 @@
 #include "ModelBuilder.h"
 #include "Output.h"
 #include "ProtoLocation.h"
-#include "Source.h"
 #include "TypesReference.h"
 #include "WorldOutput.h"
 
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/AutomationError.h"
+#include "orvane/tables/read/Source.h"
 
 #include <memory>
 #include <string>
@@ -33,7 +33,7 @@ void AddBuildCommand(CLI::App& app, std::ostream& out) {
       ->type_name("MODEL.json");
   AddOutputOptions(command, *output);
   command.callback([model, output, &out] {
-    WriteWorld(*output, out, [&] { return BuildWorld(Source::Read(*model)); });
+    WriteWorld(*output, out, [&] { return BuildWorld(tables::Source::Read(*model)); });
   });
 }
 
@@ -90,11 +90,11 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
 
   try {
     app.parse(argc, argv);
-    if (!out.flush()) throw FileError("standard output: cannot be written");
+    if (!out.flush()) throw tables::FileError("standard output: cannot be written");
     return kDone;
   } catch (const CLI::ParseError& error) {
     return app.exit(error, out, err) == 0 ? kDone : kBadUsage;
-  } catch (const FileError& error) {
+  } catch (const tables::FileError& error) {
     err << error.what() << "\n";
   } catch (const host::AutomationError& error) {
     err << "orvane: " << error.Description() << "\n";

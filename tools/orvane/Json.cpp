@@ -16,7 +16,8 @@ namespace {
 /// looked for behind the place up to which the stream was read at the event before.
 class Builder final : public nlohmann::json_sax<nlohmann::json> {
  public:
-  Builder(const Source& source, std::istream& stream) : m_source(source), m_stream(stream) {}
+  Builder(const tables::Source& source, std::istream& stream)
+      : m_source(source), m_stream(stream) {}
 
   JsonValue Take() { return std::move(m_root); }
 
@@ -99,7 +100,7 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
     return start;
   }
 
-  const Source& m_source;
+  const tables::Source& m_source;
   std::istream& m_stream;
   std::size_t m_read = 0;
   JsonValue m_root;
@@ -108,7 +109,7 @@ class Builder final : public nlohmann::json_sax<nlohmann::json> {
 
 }  // namespace
 
-JsonValue ReadJson(const Source& source) {
+JsonValue ReadJson(const tables::Source& source) {
   std::istringstream stream(source.Text());
   Builder builder(source, stream);
   nlohmann::json::sax_parse(stream, &builder);

@@ -2,9 +2,8 @@
 /// line and column.
 #pragma once
 
-#include "Source.h"
-
-#include "orvane/host/Value.h"
+#include "orvane/automation/Value.h"
+#include "orvane/tables/read/Source.h"
 
 #include <cstddef>
 #include <string>
@@ -38,6 +37,6 @@ struct JsonMember {
 
 /// The value that `source` holds. Whole numbers that fit 32 bits stay whole. Raises FileError for
 /// anything that is not JSON, for a key that an object repeats, and for more than 100 levels.
-JsonValue ReadJson(const Source& source);
+JsonValue ReadJson(const tables::Source& source);
 
 }  // namespace orvane::tool

@@ -1,11 +1,11 @@
 #include "ModelBuilder.h"
 
-#include "Color.h"
 #include "Json.h"
 
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Coercion.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Coercion.h"
+#include "orvane/tables/layout/Color.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -46,7 +46,7 @@ const Member& MemberOf(const Object& object, int id) {
 
 class ModelBuilder {
  public:
-  explicit ModelBuilder(const Source& source) : m_source(source) {}
+  explicit ModelBuilder(const tables::Source& source) : m_source(source) {}
 
   std::shared_ptr<Object> Build() const {
     const JsonValue model = ReadJson(m_source);
@@ -241,7 +241,7 @@ class ModelBuilder {
     }
     const auto* text = value->If<std::string>();
     if (type.name == "Int32" && text != nullptr && text->starts_with('#')) {
-      const auto color = ParseColor(*text);
+      const auto color = tables::ParseColor(*text);
       if (!color) Fail(input, "\"" + *text + "\" is not a colour (#rrggbb)");
       return *color;
     }
@@ -255,16 +255,16 @@ class ModelBuilder {
     return *value;
   }
 
-  const Source& m_source;
+  const tables::Source& m_source;
 };
 
 }  // namespace
 
-std::shared_ptr<host::Object> BuildModel(const Source& source) {
+std::shared_ptr<host::Object> BuildModel(const tables::Source& source) {
   return ModelBuilder(source).Build();
 }
 
-std::string BuildWorld(const Source& source) {
+std::string BuildWorld(const tables::Source& source) {
   return host::ToText(BuildModel(source)->Call("ExportToString", {true, true}));
 }
 

@@ -1,8 +1,7 @@
 #include "Output.h"
 
-#include "Source.h"
-
-#include "orvane/host/FileReplacement.h"
+#include "orvane/platform/FileReplacement.h"
+#include "orvane/tables/read/Source.h"
 
 #include <cstddef>
 #include <deque>
@@ -13,7 +12,7 @@ namespace {
 
 void FailOn(const std::error_code& error, const OutputFile& file) {
   if (!error) return;
-  throw FileError(file.path.string() + ": cannot be written: " + error.message());
+  throw tables::FileError(file.path.string() + ": cannot be written: " + error.message());
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 #include "ProtoLocation.h"
 
-#include "Source.h"
-
 #include "orvane/control/MakeRelativePath.h"
 #include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/control/ProtoPath.h"
 #include "orvane/control/ProtoSettings.h"
-#include "orvane/host/Container.h"
-#include "orvane/host/HostServices.h"
+#include "orvane/forms/Container.h"
+#include "orvane/platform/HostServices.h"
+#include "orvane/tables/read/Source.h"
 
 #include <array>
 #include <memory>
@@ -92,14 +91,15 @@ class KeptMessage final : public host::MessageBox {
 void Fill(ProtoPath& page, const ProtoChoice& choice) {
   if (choice.protoDir && ProtoSettings::IsUrl(*choice.protoDir)) {
     if (choice.outputDir) {
-      throw FileError("OutputDir goes with a folder of PROTO files, not with a URL");
+      throw tables::FileError("OutputDir goes with a folder of PROTO files, not with a URL");
     }
     page.optPath_Click(Mode::Url);
     page.Text1.Text(*choice.protoDir);
     return;
   }
   if (!choice.protoDir && page.optPath(Mode::Url).isSelected) {
-    throw FileError("ProtoDir is a URL; to set OutputDir, set ProtoDir to a folder with it");
+    throw tables::FileError(
+        "ProtoDir is a URL; to set OutputDir, set ProtoDir to a folder with it");
   }
   page.optPath_Click(Mode::Relative);
   if (choice.outputDir) page.Dir1.Path(*choice.outputDir);
@@ -134,7 +134,7 @@ void ChooseProtos(const ProtoChoice& choice) {
   const auto page = Form().ShowPage();
   Fill(AsProtoPath(*page), choice);
   page->Apply();
-  if (!message->Text().empty()) throw FileError(message->Text());
+  if (!message->Text().empty()) throw tables::FileError(message->Text());
   settings->Commit();
 }
 

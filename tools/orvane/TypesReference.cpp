@@ -1,8 +1,8 @@
 #include "TypesReference.h"
 
+#include "orvane/automation/Coercion.h"
+#include "orvane/automation/Object.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/host/Coercion.h"
-#include "orvane/host/Object.h"
 
 #include <algorithm>
 #include <cctype>

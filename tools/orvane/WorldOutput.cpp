@@ -3,7 +3,8 @@
 #include "Output.h"
 #include "ProtoFiles.h"
 #include "ProtoLocation.h"
-#include "Source.h"
+
+#include "orvane/tables/read/Source.h"
 
 #include <system_error>
 #include <vector>
@@ -55,7 +56,7 @@ void WriteWorld(const WorldOutput& output, std::ostream& out,
 void WriteProtos(const fs::path& folder) {
   std::error_code error;
   fs::create_directories(folder, error);
-  if (error) throw FileError(folder.string() + ": cannot be made: " + error.message());
+  if (error) throw tables::FileError(folder.string() + ": cannot be made: " + error.message());
   WriteFiles(ProtosIn(folder));
 }
 

@@ -10,6 +10,7 @@
 // Boxes that share one Appearance a row, as the series do, are quicker, and are shown for
 // comparison only.
 
+import { execFileSync } from 'node:child_process';
 import { mkdtemp, rm, writeFile } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -19,6 +20,9 @@ import { start } from '../server.mjs';
 
 const SIDE = 100; // columns along x and along z
 const WIDTH = 0.6; // of a column that stands in a cell of 1 by 1
+// The program that writes the PROTO files, as scripts/build makes it, or another one.
+const ORVANE = process.env.ORVANE ?? fileURLToPath(new URL('../../build/orvane', import.meta.url));
+
 const ROUNDS = 3;
 const LIMIT = 0.1;
 const TITLE = 32; // characters of a line of the report
@@ -72,7 +76,7 @@ EXTERNPROTO qm4_OutlinedColumnSeries [
   exposedField SFFloat width
   exposedField SFFloat depth
   exposedField MFFloat heights
-] "protos/VR_GRAPH.wrl#qm4_OutlinedColumnSeries"
+] "VR_GRAPH.wrl#qm4_OutlinedColumnSeries"
 ${series.join('')}`;
 }
 
@@ -218,10 +222,10 @@ function packages(path) {
 
 async function main() {
   const folder = await mkdtemp(join(tmpdir(), 'orvane-bench-'));
+  execFileSync(ORVANE, ['protos', folder]);
   const server = await start({
     root: folder,
     mounts: {
-      '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)),
       '/x_ite/': packages('x_ite'),
       '/echarts/': packages('echarts'),
       '/echarts-gl/': packages('echarts-gl'),

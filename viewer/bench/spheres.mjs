@@ -9,6 +9,7 @@
 // beside it, which other work on the machine changes less. Fails when the collection is drawn less
 // than 30 times a second.
 
+import { execFileSync } from 'node:child_process';
 import { mkdtemp, rm, writeFile } from 'node:fs/promises';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -20,6 +21,9 @@ const COUNT = 5000;
 const SIZE = { width: 800, height: 600 };
 const RADII = [0.06, 0.08, 0.12]; // in a box of 12 by 8 by 10
 const COLORS = ['0.9 0.2 0.2', '0.2 0.6 0.9', '0.3 0.8 0.3', '0.95 0.7 0.1', '0.6 0.3 0.8'];
+// The program that writes the PROTO files, as scripts/build makes it, or another one.
+const ORVANE = process.env.ORVANE ?? fileURLToPath(new URL('../../build/orvane', import.meta.url));
+
 const ROUNDS = 3;
 const SECONDS = 5;
 const LIMIT = 30; // frames a second
@@ -57,7 +61,7 @@ EXTERNPROTO qm4_SphereCollection [
   exposedField MFVec3f locations
   exposedField MFColor colors
   exposedField MFFloat radii
-] "protos/VR_GRAPH.wrl#qm4_SphereCollection"
+] "VR_GRAPH.wrl#qm4_SphereCollection"
 DEF Spheres qm4_SphereCollection {
   locations [ ${FROM.join(', ')} ]
   colors [ ${EACH.map(color).join(', ')} ]
@@ -158,10 +162,10 @@ async function measure(url) {
 
 async function main() {
   const folder = await mkdtemp(join(tmpdir(), 'orvane-bench-'));
+  execFileSync(ORVANE, ['protos', folder]);
   const server = await start({
     root: folder,
     mounts: {
-      '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)),
       '/x_ite/': fileURLToPath(new URL('node_modules/x_ite/dist', import.meta.url)),
     },
   });

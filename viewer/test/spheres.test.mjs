@@ -3,7 +3,6 @@
 
 import assert from 'node:assert/strict';
 import { describe, test } from 'node:test';
-import { fileURLToPath } from 'node:url';
 import { assertNear, open, serve, view } from './worlds.mjs';
 
 const RED = [0.8, 0, 0];
@@ -35,7 +34,7 @@ function world(hidden) {
   return `#VRML V2.0 utf8
 EXTERNPROTO qm4_SphereCollection [
   ${INTERFACE.map((field) => `exposedField ${field}`).join('\n  ')}
-] "protos/VR_GRAPH.wrl#qm4_SphereCollection"
+] "VR_GRAPH.wrl#qm4_SphereCollection"
 Background { skyColor ${SKY.map((part) => part / 255).join(' ')} }
 Viewpoint { position 0 0 ${EYE} fieldOfView ${VIEW_ANGLE} }
 DEF SPHERES qm4_SphereCollection {
@@ -53,7 +52,6 @@ const HIDDEN = { few: 0, many: 200 };
 serve({
   files: Object.fromEntries(
     Object.entries(HIDDEN).map(([name, hidden]) => [`${name}.wrl`, world(hidden)])),
-  mounts: { '/protos/': fileURLToPath(new URL('../../protos', import.meta.url)) },
 });
 
 function isSky(color) {

@@ -34,20 +34,21 @@ export let server;
 export let view;
 
 // Serves the worlds of a test file from a folder of their own, where `files` are written and
-// `charts` made: texts, and arguments of the program, by the name of the file. `mounts` are the
-// server's.
-export function serve({ files = {}, charts = {}, mounts }) {
+// `charts` made: texts, and arguments of the program, by the name of the file. The PROTO files lie
+// beside them.
+export function serve({ files = {}, charts = {} }) {
   let folder;
 
   before(async () => {
     folder = await mkdtemp(join(tmpdir(), 'viewer-'));
     for (const [name, text] of Object.entries(files)) await writeFile(join(folder, name), text);
+    assert.ok(process.env.ORVANE, 'Set ORVANE to the path of the orvane program.');
+    const orvane = (args) => promisify(execFile)(resolve(process.env.ORVANE), args, { cwd: folder });
+    await orvane(['protos', '.']);
     for (const [world, words] of Object.entries(charts)) {
-      assert.ok(process.env.ORVANE, 'Set ORVANE to the path of the orvane program.');
-      const args = [...words.split(' '), '-o', world];
-      await promisify(execFile)(resolve(process.env.ORVANE), args, { cwd: folder });
+      await orvane([...words.split(' '), '-o', world]);
     }
-    server = await startViewer(folder, mounts);
+    server = await startViewer(folder);
     browser = await launch();
   });
 

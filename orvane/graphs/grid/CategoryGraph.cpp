@@ -1,8 +1,8 @@
 #include "orvane/graphs/grid/CategoryGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/GridPlacement.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/DescribeColumnGraph.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 
 #include <algorithm>
 #include <string>

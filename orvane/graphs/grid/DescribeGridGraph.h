@@ -2,9 +2,9 @@
 /// put members of their own.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/graphs/DescribeChart.h"
 #include "orvane/graphs/grid/CategoryGraph.h"
-#include "orvane/host/Describe.h"
 
 #include <memory>
 #include <utility>

@@ -2,8 +2,8 @@
 /// classes put members of their own in between.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/graphs/grid/GridSeries.h"
-#include "orvane/host/Describe.h"
 
 #include <memory>
 #include <string>

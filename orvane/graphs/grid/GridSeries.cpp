@@ -1,7 +1,7 @@
 #include "orvane/graphs/grid/GridSeries.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 #include <utility>

@@ -1,11 +1,11 @@
 /// What the series of area, column and ribbon charts share.
 #pragma once
 
+#include "orvane/automation/Describe.h"
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/SeriesPopupInfo.h"
 #include "orvane/graphs/SeriesCollection.h"
-#include "orvane/host/Describe.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/ShapeNodes.h"
 #include "orvane/scene/UiProtos.h"
 

@@ -1,9 +1,9 @@
 /// A grid chart with one series in each Z cell.
 #pragma once
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/CategoryGraph.h"
-#include "orvane/host/Arithmetic.h"
 
 #include <cstdint>
 #include <memory>

@@ -1,9 +1,9 @@
 /// What the column and ribbon series share: an outlined and a rounded variant of one shape.
 #pragma once
 
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/grid/DescribeGridSeries.h"
 #include "orvane/graphs/grid/GridSeries.h"
-#include "orvane/host/AutomationError.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "orvane/graphs/pie/PieGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/DescribeChart.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "orvane/graphs/pie/PieSliceInfo.h"
 
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Describe.h"
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Describe.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {

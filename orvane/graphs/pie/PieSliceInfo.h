@@ -1,12 +1,12 @@
 /// One slice of a pie.
 #pragma once
 
+#include "orvane/automation/Enumeration.h"
+#include "orvane/automation/Object.h"
 #include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/TextInfo.h"
 #include "orvane/graphs/SeriesCollection.h"
-#include "orvane/host/Enumeration.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/SensorNodes.h"
 #include "orvane/scene/ShapeNodes.h"

@@ -1,8 +1,8 @@
 /// The axis by which a viewer turns a pie.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/Geometry.h"
 #include "orvane/scene/SensorNodes.h"
 #include "orvane/scene/ShapeNodes.h"

@@ -1,9 +1,9 @@
 /// One point frame of a scatter chart: a set of coloured spheres.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/graphs/SeriesCollection.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "orvane/graphs/scatter/ScatterGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/DescribeChart.h"
 #include "orvane/graphs/GridPlacement.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>

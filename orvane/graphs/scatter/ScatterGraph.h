@@ -70,6 +70,8 @@ class ORVANE_API ScatterGraph final : public Chart {
   /// The slider that the discrete style shows, for C++. Each export sets it anew, save for its
   /// root's y and z.
   std::shared_ptr<SliderInfo> FrameSlider() const { return m_slider; }
+  /// The clock of a smooth animation, for C++; it starts when its startTime is set.
+  std::shared_ptr<scene::TimeSensor> TimeKeeper() const { return m_timer; }
 
  private:
   void Arrange() override;

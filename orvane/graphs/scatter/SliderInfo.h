@@ -1,9 +1,9 @@
 /// The slider with which a viewer picks a point frame: a bar, a knob and a label for each step.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/components/TextShape.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/UiProtos.h"
 
 #include <cstdint>

@@ -1,8 +1,8 @@
 /// What the combination charts share: series and surfaces over one grid.
 #pragma once
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/graphs/surface/SurfaceChart.h"
-#include "orvane/host/Arithmetic.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/frmMain.h"
 

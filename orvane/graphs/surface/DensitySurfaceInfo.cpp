@@ -1,9 +1,9 @@
 #include "orvane/graphs/surface/DensitySurfaceInfo.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
 #include "orvane/graphs/surface/ParzenMap.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 
 #include <new>
 

@@ -2,8 +2,8 @@
 /// step of its own, since the classes put members of their own in between.
 #pragma once
 
+#include "orvane/automation/Describe.h"
 #include "orvane/graphs/surface/SurfaceInfo.h"
-#include "orvane/host/Describe.h"
 
 #include <cstdint>
 #include <memory>

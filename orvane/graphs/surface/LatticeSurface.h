@@ -1,9 +1,9 @@
 /// What the surfaces of surface, combination and density charts share.
 #pragma once
 
+#include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
 #include "orvane/graphs/SeriesCollection.h"
-#include "orvane/host/Object.h"
 #include "orvane/scene/GraphProtos.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/ShapeNodes.h"

@@ -1,7 +1,7 @@
 /// Where points lie thickly: the Parzen estimate of a cloud's density, sampled on a lattice.
 #pragma once
 
-#include "orvane/host/Export.h"
+#include "orvane/automation/Export.h"
 #include "orvane/scene/Geometry.h"
 
 #include <cstddef>

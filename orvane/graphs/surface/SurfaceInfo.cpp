@@ -1,8 +1,8 @@
 #include "orvane/graphs/surface/SurfaceInfo.h"
 
+#include "orvane/automation/Arithmetic.h"
+#include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
-#include "orvane/host/Arithmetic.h"
-#include "orvane/host/AutomationError.h"
 
 #include <new>
 #include <utility>

@@ -1,10 +1,10 @@
 /// The surfaces of a chart, and the step of its export that lays them out.
 #pragma once
 
+#include "orvane/automation/AutomationError.h"
+#include "orvane/automation/Trimmed.h"
 #include "orvane/graphs/LegendWiring.h"
 #include "orvane/graphs/SeriesCollection.h"
-#include "orvane/host/AutomationError.h"
-#include "orvane/host/Trimmed.h"
 #include "orvane/scene/ListFields.h"
 
 #include <cstdint>

@@ -1,0 +1,46 @@
+/// How large a pie and its texts are, so that labels keep clear of the pie and of each other.
+#pragma once
+
+#include "orvane/automation/Export.h"
+#include "orvane/tables/ChartOptions.h"
+#include "orvane/tables/layout/Views.h"
+#include "orvane/tables/read/PieTable.h"
+
+#include <string>
+#include <vector>
+
+namespace orvane::tables {
+
+/// The label of a slice: where it stands and what it says. It is centred there and faces the
+/// viewer.
+struct PieLabel {
+  std::string text;     ///< Empty where it would not fit.
+  double angle = 0;     ///< Of the middle of the slice, clockwise from +x as seen from above.
+  double distance = 0;  ///< From the axis.
+  double y = 0;         ///< Of the baseline.
+};
+
+/// Texts and sizes of a pie round the origin. Lengths are in scene units.
+struct ORVANE_API PieLayout {
+  double radius = 3;
+  double height = 0;            ///< Of the highest slice.
+  std::vector<double> heights;  ///< Of each slice, > 0.
+  double textHeight = 0;
+  std::vector<PieLabel> labels;
+  std::vector<std::string> legend;
+  double legendTextHeight = 0;
+  Point legendPlace;  ///< Its lower left corner, on the screen the further right the larger x is.
+  std::string title;
+  double titleHeight = 0;
+  double titleY = 0;
+  double titleZ = 0;  ///< Behind the pie, so that it stands above it also when seen from above.
+
+  double LegendHeight() const;
+};
+
+ORVANE_API PieLayout LayOutPie(const std::vector<PieShare>& shares, const ChartOptions& options);
+
+/// The views from above, the front and the top.
+std::vector<View> ViewsOf(const PieLayout& layout);
+
+}  // namespace orvane::tables

@@ -1,0 +1,65 @@
+#include "orvane/tables/read/Table.h"
+
+#include "orvane/tables/read/Csv.h"
+
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
+namespace orvane::tables {
+namespace {
+
+TableCell ReadCell(const CsvCell& cell, MissingCell missing, const Source& source) {
+  const std::string_view text = Trimmed(cell.text);
+  if (text.empty()) {
+    if (missing == MissingCell::Zero) return {0, "0", cell.offset};
+    source.Fail(cell.offset, "empty cell (--missing zero reads it as 0)");
+  }
+  return {ReadNumber(cell, source), std::string(text), cell.offset};
+}
+
+void ReadHeader(const std::vector<CsvCell>& row, std::size_t rowEnd, const Source& source,
+                Table& table) {
+  if (row.size() < 2) source.Fail(rowEnd, "the header names no series after its first column");
+  table.categoryHeader = row[0].text;
+  std::unordered_map<std::string_view, std::size_t> columns;
+  for (std::size_t column = 1; column < row.size(); ++column) {
+    const CsvCell& cell = row[column];
+    if (column > kMostCells) {
+      source.Fail(cell.offset, "more than " + std::to_string(kMostCells) + " series");
+    }
+    const auto [first, isNew] = columns.try_emplace(cell.text, column);
+    if (!isNew) {
+      source.Fail(cell.offset, "series name \"" + cell.text + "\" is already that of column " +
+                                   std::to_string(first->second + 1));
+    }
+    table.series.push_back({cell.text, {}, cell.offset});
+  }
+}
+
+}  // namespace
+
+Table ReadTable(const Source& source, MissingCell missing) {
+  CsvReader reader(source);
+  Table table;
+  table.file = source.Name();
+  std::vector<CsvCell> row = reader.ReadHeader();
+  ReadHeader(row, reader.RowEnd(), source, table);
+
+  const std::size_t columnCount = row.size();
+  while (reader.Next(row)) {
+    if (table.categories.size() == kMostCells) {
+      source.Fail(row[0].offset, "more than " + std::to_string(kMostCells) + " categories");
+    }
+    for (std::size_t column = 1; column < columnCount; ++column) {
+      table.series[column - 1].cells.push_back(ReadCell(row[column], missing, source));
+    }
+    table.categories.push_back(std::move(row[0].text));
+  }
+  if (table.categories.empty()) {
+    source.Fail(reader.Offset(), "the header has no rows of numbers below it");
+  }
+  return table;
+}
+
+}  // namespace orvane::tables

@@ -1,0 +1,71 @@
+/// Charts from tables, for the Python half of the package: the kinds there are, and the one call
+/// that makes them.
+
+#include "Values.h"
+
+#include "orvane/tables/ChartKinds.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <pybind11/stl.h>
+
+namespace orvane::python {
+namespace {
+
+namespace py = pybind11;
+
+using tables::ChartKind;
+using tables::Option;
+using tables::Source;
+
+/// A table as text: what messages call it, and its CSV; without text, the file of that name.
+using TableText = std::pair<std::string, std::optional<std::string>>;
+
+Source SourceOf(const TableText& table) {
+  const auto& [name, text] = table;
+  return text ? Source(name, *text) : Source::Read(name);
+}
+
+/// The chart, and what is to be said about it.
+std::pair<py::object, std::vector<std::string>> MakeChart(
+    const std::string& kindName, const TableText& table,
+    const std::vector<std::pair<std::string, std::string>>& options,
+    const std::optional<TableText>& surface) {
+  const ChartKind& kind = tables::ChartKindOf(kindName);
+  tables::ChartOptions chosen;
+  for (const auto& [name, text] : options) tables::SetOption(kind, chosen, name, text);
+  if (surface) chosen.surface = SourceOf(*surface);
+  const auto made = kind.make(SourceOf(table), chosen);
+  return {ToPython(host::Value(made.chart)), made.remarks};
+}
+
+}  // namespace
+
+void AddCharts(py::module_& module) {
+  // What is wrong with a table is wrong with a value, as what is wrong with an option.
+  py::register_exception_translator([](std::exception_ptr thrown) {
+    try {
+      if (thrown) std::rethrow_exception(std::move(thrown));
+    } catch (const tables::FileError& error) {
+      PyErr_SetString(PyExc_ValueError, error.what());
+    }
+  });
+  py::class_<Option>(module, "Option")
+      .def_readonly("name", &Option::name)
+      .def_readonly("values", &Option::values)
+      .def_readonly("help", &Option::help);
+  py::class_<ChartKind>(module, "ChartKind")
+      .def_readonly("name", &ChartKind::name)
+      .def_readonly("graph", &ChartKind::graph)
+      .def_readonly("help", &ChartKind::help)
+      .def_readonly("table", &ChartKind::table)
+      .def_readonly("options", &ChartKind::options);
+  module.def("chart_kinds", &tables::ChartKinds, py::return_value_policy::reference);
+  module.def("make_chart", &MakeChart);
+}
+
+}  // namespace orvane::python
