@@ -1,7 +1,7 @@
 // Builds the player: dist/orvane-player.mjs, a module, and dist/orvane-player.js, a script that defines the
 // global OrvanePlayer, each in one file, and says how large they are.
 //
-// usage: node build.mjs [FOLDER [OUT]]   FOLDER has the PROTO files, default ../protos; OUT, default dist
+// usage: node build.mjs [FOLDER [OUT]]   FOLDER has the PROTO files, see compile.mjs; OUT is dist by default
 
 import { mkdirSync, readFileSync } from 'node:fs';
 import { fileURLToPath } from 'node:url';

@@ -1,6 +1,7 @@
 // Compiles the PROTO files into a module: the structure of each PROTO as text, its scripts as functions.
 //
-// usage: node compile.mjs [FOLDER]   FOLDER has VR_GRAPH.wrl, VR_NAV.wrl and VR_UI.wrl; default ../protos
+// usage: node compile.mjs [FOLDER]   FOLDER has VR_GRAPH.wrl, VR_NAV.wrl and VR_UI.wrl; by default it is
+//                                    where scripts/build assembles them
 //
 // The module is src/scene/protos.js. A PROTO in protos/ beside this file stands for the one of its name.
 
@@ -16,7 +17,7 @@ const LISTS = ['MFColor', 'MFFloat', 'MFInt32', 'MFNode', 'MFRotation', 'MFStrin
 const SINGLES = ['SFColor', 'SFRotation', 'SFVec2f', 'SFVec3f'];
 
 /** Writes src/scene/protos.js. */
-export function compile(folder = fileURLToPath(new URL('../protos/', HERE))) {
+export function compile(folder = fileURLToPath(new URL('../build/release/protos', HERE))) {
   const protos = new Map();
   for (const file of FILES) readProtos(`${folder}/${file}`, protos);
   const own = fileURLToPath(new URL('protos/', HERE));
@@ -80,7 +81,7 @@ function moduleOf(protos) {
     texts.push(`${name}: ${JSON.stringify(text)}`);
   }
   return `// Made by compile.mjs from the PROTO files.
-import { ${LISTS.join(', ')} } from './lists.js';
+import { ${LISTS.join(', ')}, putPoint } from './lists.js';
 import { ${SINGLES.join(', ')} } from './singles.js';
 import { Library } from './Library.js';
 
@@ -125,7 +126,7 @@ return { ${names.map((name) => `${name}: ${name}`).join(', ')} };
 
 function edited(code, edits) {
   let text = '', at = 0;
-  for (const { start, end, put } of edits.sort((a, b) => a.start - b.start || b.end - a.end)) {
+  for (const { start, end, put } of edits.sort((a, b) => a.start - b.start || a.end - b.end)) {
     text += code.slice(at, start) + put;
     at = Math.max(at, end);
   }
@@ -161,6 +162,7 @@ class Rewriter {
 
   FunctionDeclaration(node, scopes) {
     const names = new Set(node.params.map(({ name }) => name));
+    names.vectors = new Set();
     collectVariables(node.body, names);
     this.walk(node.body, [...scopes, names]);
   }
@@ -175,6 +177,27 @@ class Rewriter {
   Property(node, scopes) { this.walk(node.value, scopes); }
 
   VariableDeclarator(node, scopes) { this.walk(node.init, scopes); }
+
+  ExpressionStatement(node, scopes) {
+    const { left, right, operator } = node.expression;
+    const isPoint = operator === '=' && left.computed && right.type === 'NewExpression'
+      && right.arguments.length === 3 && this.isVector(right.callee.name, scopes);
+    if (isPoint) this.putPoint(left, right.arguments, scopes);
+    else this.walk(node.expression, scopes);
+  }
+
+  isVector(name, scopes) {
+    const scope = scopes.findLast((names) => names.has(name));
+    return scope === undefined ? name === 'SFVec3f' : scope.vectors.has(name);
+  }
+
+  /** list[n] = new SFVec3f(x, y, z) becomes putPoint(list, n, x, y, z). */
+  putPoint({ start, object, property }, values, scopes) {
+    this.edits.push({ start, end: start, put: 'putPoint(' });
+    this.edits.push({ start: object.end, end: property.start, put: ', ' });
+    this.edits.push({ start: property.end, end: values[0].start, put: ', ' });
+    this.walk([object, property, ...values], scopes);
+  }
 
   UpdateExpression(node, scopes) {
     const { name } = node.argument;
@@ -212,7 +235,10 @@ function collectVariables(node, names) {
     for (const part of node) collectVariables(part, names);
     return;
   }
-  if (node.type === 'VariableDeclarator') names.add(node.id.name);
+  if (node.type === 'VariableDeclarator') {
+    names.add(node.id.name);
+    if (node.init?.name === 'SFVec3f') names.vectors.add(node.id.name);
+  }
   if (node.type === 'FunctionDeclaration') names.add(node.id.name);
   if (/^Function/.test(node.type)) return;
   for (const part of Object.values(node)) collectVariables(part, names);

@@ -1,24 +1,10 @@
-// The values of fields as scripts see them, and back: nodes with their fields as properties, lists of vectors
-// with vectors as entries.
+// The values of fields as scripts see them, and back: nodes with their fields as properties, lists as those of
+// lists.js or, of plain numbers, as they are.
 
 import { LISTS } from '../vrml/values.js';
-import { MFNode } from './lists.js';
+import { MFNode, VECTORS } from './lists.js';
 
-const NODE = Symbol('node'), ARRAY = Symbol('array');
-
-// What a script takes a list of vectors for. Its entries are made when they are asked for.
-const VECTORS = {
-  get({ array, size, Single }, key) {
-    if (key === 'length') return array.length / size;
-    if (key === ARRAY) return array;
-    if (typeof key === 'symbol') return undefined;
-    const first = size * Number(key);
-    if (first >= 0) return first < array.length ? new Single(...array.subarray(first, first + size)) : undefined;
-    const list = [];
-    for (let n = 0; n < array.length; n += size) list.push(new Single(...array.subarray(n, n + size)));
-    return typeof list[key] === 'function' ? list[key].bind(list) : list[key];
-  },
-};
+const NODE = Symbol('node');
 
 // The shortest text that reads back to the same 32-bit number.
 function shortest(value) {
@@ -43,7 +29,7 @@ export class ScriptValues {
       case 'SFNode': return value === null ? null : this.view(value);
       case 'MFNode': return MFNode.from(value, (node) => this.view(node));
       case 'MFVec2f': case 'MFVec3f': case 'MFColor': case 'MFRotation':
-        return new Proxy({ array: value, ...LISTS[type] }, VECTORS);
+        return new VECTORS[type]().over(value);
       case 'MFFloat': case 'MFTime':
         if (value.toString !== numbersAsText) Object.defineProperty(value, 'toString', { value: numbersAsText });
         return value;
@@ -105,28 +91,14 @@ export class ScriptValues {
 
 function listOf(value) { return Array.isArray(value) ? value : [value]; }
 
+/** The numbers of a list as a typed array. */
 function packed({ Type, size }, value) {
   if (value instanceof Type) return value;
-  if (value[ARRAY] !== undefined) return value[ARRAY];
-  const list = listOf(value), { length } = list;
-  const array = new Type(size * length);
-  if (size === 1) {
-    for (let n = 0; n < length; ++n) array[n] = list[n];
-    return array;
+  if (value?.take !== undefined) return value.take();
+  const list = listOf(value), { length } = list, array = new Type(size * length);
+  for (let n = 0; n < length; ++n) {
+    if (size === 1) array[n] = list[n];
+    else array.set(Object.values(list[n] ?? {}), n * size);
   }
-  if (size === 3 && length > 0 && list[0]?.x !== undefined) {
-    for (let n = 0, at = 0; n < length; ++n) {
-      const vector = list[n];
-      if (vector === undefined) {
-        at += 3;
-        continue;
-      }
-      array[at++] = vector.x;
-      array[at++] = vector.y;
-      array[at++] = vector.z;
-    }
-    return array;
-  }
-  list.forEach((single, n) => array.set(Object.values(single), n * size));
   return array;
 }
