@@ -17,6 +17,7 @@ export class Camera {
     this.isParallel = false;
     this.perspective = new PerspectiveCamera();
     this.orthographic = new OrthographicCamera();
+    for (const camera of [this.perspective, this.orthographic]) camera.matrixWorldAutoUpdate = false;
     this.jump = null;
     this.aspect = 1;
     this.center = new Vector3(); // of what there is to see

@@ -46,6 +46,8 @@ export class Look {
     this.lights = lights;
     this.material = new RawShaderMaterial({
       glslVersion: GLSL3,
+      premultipliedAlpha: true,
+      forceSinglePass: true,
       vertexShader: traits.isBalls ? BALL_VERTEX : SHAPE_VERTEX,
       fragmentShader: traits.isBalls ? BALL_FRAGMENT : SHAPE_FRAGMENT,
     });
@@ -56,7 +58,7 @@ export class Look {
       opacity: { value: 1 },
       ambient: { value: 0 },
       specular: { value: new Vector4() },
-      veil: { value: new Vector4() },
+      veil: { value: new Vector4(0, 0, 0, 0) },
       map: { value: null },
       mapFrame: { value: new Matrix3() },
     });
@@ -85,7 +87,7 @@ export class Look {
     this.define({
       LIT: isLit,
       FLAT: isLit && traits.isFlat,
-      SPECULAR: isLit && glare.r + glare.g + glare.b > 0,
+      SPECULAR: (isLit || traits.isBalls) && glare.r + glare.g + glare.b > 0,
       TWO_SIDED: isLit && !traits.isSolid,
       COLOR: traits.hasColor,
       FLAT_COLOR: traits.hasFlatColor,
@@ -95,7 +97,8 @@ export class Look {
       FOG: hasFog,
     });
     material.side = traits.isSolid ? FrontSide : DoubleSide;
-    material.transparent = traits.isText || transparency > 0 || (isMapped && this.isClear);
+    const isClear = uniforms.transparent?.value ?? (transparency > 0 || (isMapped && this.hasAlpha));
+    material.transparent = traits.isText || isClear;
     material.depthWrite = !material.transparent;
   }
 
@@ -117,7 +120,7 @@ export class Look {
       this.image = image;
       this.texture = image && image.width > 0 && image.height > 0 ? textureOf(image) : null;
       this.isGrey = image !== null && image.components < 3;
-      this.isClear = image !== null && image.components % 2 === 0;
+      this.hasAlpha = image !== null && image.components % 2 === 0;
     }
     if (this.texture === null) return;
     this.texture.wrapS = node.get('repeatS') ? RepeatWrapping : ClampToEdgeWrapping;

@@ -70,7 +70,6 @@ export class Shape {
       const object = new OBJECTS[geometry.kind](geometry.buffer, look.material);
       if (geometry.kind === 'balls') {
         look.material.uniforms.transparent = { value: isClear };
-        look.isClear = isClear;
       }
       object.matrixAutoUpdate = false;
       object.frustumCulled = false;
@@ -94,8 +93,6 @@ export class Shape {
     this.stopLook = followLook(this.node, this.lookChanged);
     for (const look of this.looks) {
       look.update(this.node, this.view.hasFog);
-      if (look.isClear !== undefined) look.material.transparent = look.isClear;
-      if (look.isClear !== undefined) look.material.depthWrite = !look.isClear;
     }
     const { bounds } = this.geometry;
     for (const object of this.objects) object.visible = bounds !== null && isVisible(this.node);

@@ -1,7 +1,7 @@
 // Shows a Scene on a canvas, and lets the viewer walk about and point at it. Draws a frame only when something
 // has changed.
 
-import { Color, Raycaster, Vector2, Vector3, WebGLRenderer, WebGLRenderTarget } from 'three';
+import { Color, LinearSRGBColorSpace, Raycaster, Vector2, Vector3, WebGLRenderer, WebGLRenderTarget } from 'three';
 import { Camera } from './Camera.js';
 import { Navigation } from './Navigation.js';
 import { World } from './World.js';
@@ -38,6 +38,7 @@ export class View {
     this.canvas.style.cssText = 'display: block; width: 100%; height: 100%; touch-action: none';
     element.append(this.canvas);
     this.renderer = new WebGLRenderer({ canvas: this.canvas, antialias: true, powerPreference: 'high-performance' });
+    this.renderer.outputColorSpace = LinearSRGBColorSpace; // colours go to the screen as they stand in the world
     this.renderer.setTransparentSort((a, b) => (
       a.groupOrder - b.groupOrder || a.renderOrder - b.renderOrder || b.object.eyeDepth - a.object.eyeDepth
       || a.id - b.id));
@@ -111,6 +112,7 @@ export class View {
   }
 
   draw() {
+    globalThis.theView = this;
     this.frame = 0;
     const { world, camera } = this, begin = performance.now();
     if (world === null) {
@@ -131,8 +133,9 @@ export class View {
       this.pointAgain();
       this.tell('frame', { time: begin, changed, work: performance.now() - begin });
     }
-    if (world.scene.isAnimated || camera.isMoving || world.isStale || world.jobs.size > 0) this.request();
-    else this.answer();
+    const isUnfinished = camera.isMoving || world.isStale || world.jobs.size > 0;
+    if (isUnfinished || world.scene.isAnimated) this.request();
+    if (!isUnfinished) this.answer();
   }
 
   render() {

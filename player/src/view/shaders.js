@@ -206,23 +206,25 @@ void main() {
 #ifdef FOG
   shade = mix(fogColor.rgb, shade, clamp(1.0 - eyeDistance / fogColor.a, 0.0, 1.0));
 #endif
-  fragment = vec4(mix(shade, veil.rgb, veil.a), base.a);
+  fragment = vec4(mix(shade, veil.rgb, veil.a) * base.a, base.a);
 }
 `;
 
-/** Balls as squares of pixels. All lights are taken together as one from their mean direction, at the centre
- *  of each. The depth is that of the point nearest to the eye, so that walls do not cut a ball. */
+/** Balls as squares of pixels. The way to each light is that from a ball's centre. The depth is that of the
+ *  point nearest to the eye, so that walls do not cut a ball. */
 export const BALL_VERTEX = `${FRONT}
 uniform mat4 modelViewMatrix, projectionMatrix;
 uniform float screenHeight; // in pixels
-uniform bool transparent;
+uniform bool transparent, parallel;
+#if LIGHTS > 0
+uniform vec4 lightPlace[LIGHTS], lightFalloff[LIGHTS];
+flat out vec4 way[LIGHTS]; // of length 1; a: how much of the light is left
+#endif
 in vec3 position;
 in vec4 ballColor;
 in float ballRadius;
 flat out vec4 color;
-flat out vec3 way;
 flat out float radius; // in pixels
-${LIGHTING}
 
 void main() {
   vec3 centre = (modelViewMatrix * vec4(position, 1.0)).xyz;
@@ -233,32 +235,31 @@ void main() {
   vec3 nearest = parallel ? centre + vec3(0.0, 0.0, size) : centre * (1.0 - min(size / far, 0.99));
   vec4 front = projectionMatrix * vec4(nearest, 1.0);
   gl_Position.z = front.z / front.w * gl_Position.w;
-
-  vec3 tint = vec3(0.0), sum = vec3(0.0);
+  color = ballColor;
 #if LIGHTS > 0
   for (int i = 0; i < LIGHTS; ++i) {
     vec3 path = lightPlace[i].xyz - centre * lightPlace[i].w;
-    float distance = length(path);
-    vec3 power = lightColor[i].rgb;
+    float distance = length(path), rest = 1.0;
     if (lightPlace[i].w > 0.0) {
       vec4 falloff = lightFalloff[i];
-      power *= step(distance, falloff.a) / max(1.0, falloff.x + distance * (falloff.y + distance * falloff.z));
+      rest = step(distance, falloff.a) / max(1.0, falloff.x + distance * (falloff.y + distance * falloff.z));
     }
-    tint += power;
-    sum += max(power.r, max(power.g, power.b)) * path / distance;
+    way[i] = vec4(path / distance, rest);
   }
 #endif
-  color = vec4(ballColor.rgb * tint, ballColor.a);
-  way = sum / max(length(sum), 0.001);
   if (radius <= 0.0 || transparent != (color.a < 1.0)) gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
 }
 `;
 
 export const BALL_FRAGMENT = `${FRONT}
+#if LIGHTS > 0
+uniform vec4 lightColor[LIGHTS];
+flat in vec4 way[LIGHTS];
+#endif
+uniform float ambient;
 uniform vec4 specular; // a: exponent
 uniform vec4 veil;
 flat in vec4 color;
-flat in vec3 way;
 flat in float radius;
 out vec4 fragment;
 
@@ -268,9 +269,19 @@ void main() {
   float coverage = min((1.0 - sqrt(square)) * radius + 0.5, 1.0);
   if (coverage <= 0.0) discard;
   vec3 normal = vec3(at.x, -at.y, sqrt(max(1.0 - square, 0.0)));
-  float slope = max(dot(normal, way), 0.0);
-  vec3 glare = specular.rgb * pow(max(2.0 * slope * normal.z - way.z, 0.0), specular.a);
-  fragment = vec4(mix(slope * color.rgb + glare, veil.rgb, veil.a), color.a * coverage);
+  vec3 sum = vec3(0.0), glare = vec3(0.0);
+#if LIGHTS > 0
+  for (int i = 0; i < LIGHTS; ++i) {
+    vec3 tint = lightColor[i].rgb * way[i].a;
+    sum += tint * (lightColor[i].a * ambient + max(dot(normal, way[i].xyz), 0.0));
+#ifdef SPECULAR
+    vec3 middle = normalize(way[i].xyz + vec3(0.0, 0.0, 1.0));
+    glare += tint * pow(max(dot(normal, middle), 0.0), specular.a);
+#endif
+  }
+#endif
+  float alpha = color.a * coverage;
+  fragment = vec4(mix(sum * color.rgb + glare * specular.rgb, veil.rgb, veil.a) * alpha, alpha);
 }
 `;
 
