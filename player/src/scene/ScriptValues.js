@@ -6,8 +6,10 @@ import { MFNode, VECTORS } from './lists.js';
 
 const NODE = Symbol('node');
 
-// The shortest text that reads back to the same 32-bit number.
+// A short text that reads back to the same 32-bit number.
 function shortest(value) {
+  const rounded = Math.round(value * 1e6) / 1e6; // does for most, and quickly
+  if (Math.fround(rounded) === value) return String(rounded);
   for (let digits = 6; digits < 9; ++digits) {
     const text = value.toPrecision(digits);
     if (Math.fround(text) === value) return String(Number(text));
@@ -15,7 +17,11 @@ function shortest(value) {
   return String(value);
 }
 
-function numbersAsText() { return `[ ${Array.from(this, shortest).join(', ')} ]`; }
+function numbersAsText() {
+  let text = '[ ';
+  for (let n = 0; n < this.length; ++n) text += `${shortest(this[n])} `;
+  return `${text}]`;
+}
 
 export class ScriptValues {
   constructor(scene) {
