@@ -3,6 +3,7 @@
 
 #include "Values.h"
 
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/tables/ChartKinds.h"
 
 #include <exception>
@@ -66,6 +67,7 @@ void AddCharts(py::module_& module) {
       .def_readonly("options", &ChartKind::options);
   module.def("chart_kinds", &tables::ChartKinds, py::return_value_policy::reference);
   module.def("make_chart", &MakeChart);
+  module.def("write_protos", [](const std::string& folder) { WriteProtos(folder); });
 }
 
 }  // namespace orvane::python

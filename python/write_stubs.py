@@ -21,7 +21,6 @@ _Let = TypeVar("_Let", contravariant=True)
 _Entry = TypeVar("_Entry")
 
 __all__: list[str]
-ProtoFolder: Path
 
 __version__: str
 chart_kinds: list[str]

@@ -161,6 +161,11 @@ typedef orvane_status (*orvane_DllRegisterServer)(void);
 orvane_status DllUnregisterServer(void);
 typedef orvane_status (*orvane_DllUnregisterServer)(void);
 
+/* Writes the three PROTO files that worlds refer to into `folder` (UTF-8), which is made when
+ * missing: a world beside them finds them. All are written or none. */
+orvane_status OrvaneWriteProtos(const char* folder, orvane_error* error);
+typedef orvane_status (*orvane_OrvaneWriteProtos)(const char*, orvane_error*);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,7 +1,8 @@
 /// The program as a whole: files, exit statuses, messages.
-#include "ProtoFiles.h"
 #include "support/Program.h"
 #include "support/ScratchFolder.h"
+
+#include "orvane/scene/ProtoFiles.h"
 
 #include <algorithm>
 #include <filesystem>

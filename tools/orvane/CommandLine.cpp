@@ -2,12 +2,12 @@
 
 #include "ChartCommands.h"
 #include "ModelBuilder.h"
-#include "Output.h"
 #include "ProtoLocation.h"
 #include "TypesReference.h"
 #include "WorldOutput.h"
 
 #include "orvane/automation/AutomationError.h"
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/scene/Utf8.h"
 #include "orvane/tables/read/Source.h"
 

@@ -2,6 +2,9 @@
 
 #include "orvane/tables/read/Csv.h"
 
+#include <array>
+#include <charconv>
+#include <cmath>
 #include <string_view>
 #include <unordered_map>
 #include <utility>
@@ -38,6 +41,31 @@ void ReadHeader(const std::vector<CsvCell>& row, std::size_t rowEnd, const Sourc
 }
 
 }  // namespace
+
+Table MakeTable(std::vector<std::string> categories, const std::vector<NamedNumbers>& series) {
+  Table table;
+  table.file = "table";
+  if (categories.empty() || series.empty()) {
+    throw FileError("table: a chart needs a category and a series, or more");
+  }
+  for (const auto& [name, numbers] : series) {
+    if (numbers.size() != categories.size()) {
+      throw FileError("table: series \"" + name + "\" has " + std::to_string(numbers.size()) +
+                      " numbers for " + std::to_string(categories.size()) + " categories");
+    }
+    TableSeries& made = table.series.emplace_back(TableSeries{name, {}, 0});
+    for (const double number : numbers) {
+      if (!std::isfinite(number)) {
+        throw FileError("table: series \"" + name + "\" holds a number that is not finite");
+      }
+      std::array<char, 32> text{};
+      const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+      made.cells.push_back({number, std::string(text.data(), end), 0});
+    }
+  }
+  table.categories = std::move(categories);
+  return table;
+}
 
 Table ReadTable(const Source& source, MissingCell missing) {
   CsvReader reader(source);

@@ -37,6 +37,17 @@ struct Table {
 /// The most categories or series that a chart's grid takes as cells.
 inline constexpr std::int16_t kMostCells = 32766;
 
+/// The numbers of one series by its name, one for each category.
+struct NamedNumbers {
+  std::string name;
+  std::vector<double> numbers;
+};
+
+/// A table made in memory. Raises FileError for a series that has more or fewer numbers than there
+/// are categories, or one that is not finite, and where there is nothing to chart.
+ORVANE_API Table MakeTable(std::vector<std::string> categories,
+                           const std::vector<NamedNumbers>& series);
+
 /// Reads a table whose first column holds category labels and whose header names the series.
 ///
 /// Raises FileError, naming line and column, for anything else.

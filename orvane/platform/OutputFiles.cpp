@@ -1,20 +1,21 @@
-#include "Output.h"
+#include "orvane/platform/OutputFiles.h"
 
+#include "orvane/automation/AutomationError.h"
 #include "orvane/platform/FileReplacement.h"
-#include "orvane/tables/read/Source.h"
 
 #include <cstddef>
 #include <deque>
 #include <set>
 #include <system_error>
 
-namespace orvane::tool {
+namespace orvane::host {
 namespace {
 
 namespace fs = std::filesystem;
 
 [[noreturn]] void Fail(const OutputFile& file, const std::string& reason) {
-  throw tables::FileError(file.path.string() + ": cannot be written: " + reason);
+  throw AutomationError(ErrorNumber::FileAccess,
+                        file.path.string() + ": cannot be written: " + reason);
 }
 
 void FailOn(const std::error_code& error, const OutputFile& file) {
@@ -24,7 +25,7 @@ void FailOn(const std::error_code& error, const OutputFile& file) {
 }  // namespace
 
 void WriteFiles(const std::vector<OutputFile>& files, const std::vector<fs::path>& inputs) {
-  std::deque<host::FileReplacement> replacements;
+  std::deque<FileReplacement> replacements;
   std::set<fs::path> written;
   for (const OutputFile& file : files) {
     const auto& replacement = replacements.emplace_back(file.path, file.text);
@@ -40,4 +41,4 @@ void WriteFiles(const std::vector<OutputFile>& files, const std::vector<fs::path
   for (std::size_t i = 0; i < files.size(); ++i) FailOn(replacements[i].MoveIntoPlace(), files[i]);
 }
 
-}  // namespace orvane::tool
+}  // namespace orvane::host

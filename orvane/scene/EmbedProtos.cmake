@@ -1,10 +1,10 @@
-# Writes a C++ source that holds the PROTO files as text, so that the program can write them anywhere:
+# Writes a C++ source that holds the PROTO files as text, so that the library can write them anywhere:
 # cmake -D OUTPUT=... -D FOLDER=... -P EmbedProtos.cmake
 #
 # A string literal stays below 16 KB, which is what some compilers take at most.
 set(PIECE 15000)
 
-set(source "#include \"ProtoFiles.h\"\n\nnamespace orvane::tool {\n\n")
+set(source "#include \"orvane/scene/ProtoFiles.h\"\n\nnamespace orvane {\n\n")
 string(APPEND source "const std::array<ProtoFile, 3>& ProtoFiles() {\n")
 string(APPEND source "  static const std::array<ProtoFile, 3> files = {{\n")
 foreach(name VR_GRAPH VR_NAV VR_UI)
@@ -19,5 +19,5 @@ foreach(name VR_GRAPH VR_NAV VR_UI)
   endwhile()
   string(APPEND source "},\n")
 endforeach()
-string(APPEND source "  }};\n  return files;\n}\n\n}  // namespace orvane::tool\n")
+string(APPEND source "  }};\n  return files;\n}\n\n}  // namespace orvane\n")
 file(WRITE ${OUTPUT} "${source}")
