@@ -175,13 +175,11 @@ class RowReader {
   void AddRow(py::handle value, int depth) {
     const std::size_t before = m_row.size();
     if (!AddBuffer(value, depth)) {
-      const auto items = Owned(PySequence_Fast(value.ptr(), "a row of numbers"));
-      const Py_ssize_t count = PySequence_Fast_GET_SIZE(items.ptr());
-      m_row.reserve(before + static_cast<std::size_t>(count));
-      for (Py_ssize_t i = 0; i < count; ++i) {
-        // The item is held: what its conversion runs may change the list.
-        const auto item =
-            py::reinterpret_borrow<py::object>(PySequence_Fast_GET_ITEM(items.ptr(), i));
+      // A copy: what the conversion of an item runs may change the list.
+      const auto items =
+          py::reinterpret_steal<py::tuple>(Owned(PySequence_Tuple(value.ptr())).release());
+      m_row.reserve(before + items.size());
+      for (const py::handle item : items) {
         if (depth == 0 && m_components > 1 && IsRow(item)) {
           AddRow(item, depth + 1);
         } else {

@@ -3,7 +3,7 @@
 // As a program: node viewer/server.mjs DIR [PORT]
 
 import { createReadStream } from 'node:fs';
-import { stat } from 'node:fs/promises';
+import { realpath, stat } from 'node:fs/promises';
 import { createServer } from 'node:http';
 import { dirname, extname, join, resolve, sep } from 'node:path';
 import { pipeline } from 'node:stream';
@@ -26,27 +26,32 @@ const CONTENT_TYPES = {
 
 // Starts a server for the folder `root`. `mounts` puts more into its tree: an object of URL path to
 // folder ("/x_ite/", with both slashes) or to file ("/index.html"); the longest path that fits
-// wins. Port 0 takes any free port. Returns the server's `url`, its `requests` ({ path, status },
-// in order of their answers) and `close`.
+// wins. Links that lead out of a folder are not followed. Port 0 takes any free port. Returns the
+// server's `url`, its `requests` ({ path, status }, in order of their answers) and `close`.
 export async function start({ root, mounts = {}, port = 0 }) {
   const places = Object.entries({ '/': root, ...mounts })
     .map(([at, target]) => ({ at, target: resolve(target) }))
     .sort((a, b) => b.at.length - a.at.length);
   const requests = [];
+  const hosts = [];  // The names that the server goes by, each with the port.
 
   const server = createServer(async (request, response) => {
-    const { pathname } = new URL(request.url, 'http://127.0.0.1');
-    const answer = await find(places, request.method, pathname);
-    requests.push({ path: pathname, status: answer.status });
+    const asked = `http://${request.headers.host}`;
+    const url = URL.canParse(request.url, asked) ? new URL(request.url, asked) : null;
+    const answer = await find(places, hosts, request.method, url);
+    requests.push({ path: url?.pathname ?? request.url, status: answer.status });
     send(request, response, answer);
   });
   await new Promise((done, failed) => {
     server.once('error', failed);
     server.listen(port, '127.0.0.1', done);
   });
+  for (const name of ['127.0.0.1', 'localhost']) {
+    hosts.push(new URL(`http://${name}:${server.address().port}`).host);
+  }
 
   return {
-    url: `http://127.0.0.1:${server.address().port}/`,
+    url: `http://${hosts[0]}/`,
     requests,
     close() {
       server.closeAllConnections();
@@ -69,13 +74,16 @@ export function startViewer(root) {
 }
 
 // The answer to a request: { status, file, size } for a file, { status, location } for a folder
-// named without its last slash, { status } for anything else.
-async function find(places, method, pathname) {
+// named without its last slash, { status } for anything else. `url` is null for a malformed one.
+async function find(places, hosts, method, url) {
+  if (!url) return { status: 400 };
+  // A name that another site lets point here (DNS rebinding) would make its pages ours.
+  if (!hosts.includes(url.host)) return { status: 421 };
   if (method !== 'GET' && method !== 'HEAD') return { status: 405 };
 
   let path;
   try {
-    path = decodeURIComponent(pathname);
+    path = decodeURIComponent(url.pathname);
   } catch {
     return { status: 400 };
   }
@@ -83,22 +91,26 @@ async function find(places, method, pathname) {
 
   const { at, target } = places.find((place) => (
     place.at.endsWith('/') ? path.startsWith(place.at) : path === place.at));
-  const file = resolve(target, path.slice(at.length).replace(/^\/+/, ''));
-  if (file !== target && !file.startsWith(target.endsWith(sep) ? target : target + sep)) {
-    return { status: 403 };
-  }
+  const named = resolve(target, path.slice(at.length).replace(/^\/+/, ''));
+  if (!isWithin(named, target)) return { status: 403 };
 
   try {
+    const isFolder = (await stat(named)).isDirectory();
+    // One slash in front: two would begin the name of a site.
+    if (isFolder && !path.endsWith('/')) {
+      return { status: 301, location: `${url.pathname.replace(/^\/+/, '/')}/` };
+    }
+    const file = await realpath(isFolder ? join(named, 'index.html') : named);
+    if (!isWithin(file, await realpath(target))) return { status: 403 };
     const found = await stat(file);
-    if (found.isFile()) return { status: 200, file, size: found.size };
-    if (!found.isDirectory()) return { status: 404 };
-    if (!path.endsWith('/')) return { status: 301, location: `${pathname}/` };
-    const index = join(file, 'index.html');
-    return { status: 200, file: index, size: (await stat(index)).size };
+    return found.isFile() ? { status: 200, file, size: found.size } : { status: 404 };
   } catch {
     return { status: 404 };
   }
 }
+
+const isWithin = (file, folder) => (
+  file === folder || file.startsWith(folder.endsWith(sep) ? folder : folder + sep));
 
 function send(request, response, { status, file, size, location }) {
   // A world that was exported again must be seen at once, so nothing is kept unasked.

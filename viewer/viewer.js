@@ -11,10 +11,13 @@ const status = document.querySelector('#status');
 const alert = document.querySelector('#alert');
 const viewpoints = document.querySelector('#viewpoints');
 
-// The worlds beside the page, an array of { file, title }; empty when the page has no list.
-const worlds = await fetch('worlds.json')
+// The worlds beside the page, an array of { file, title }; empty when the page has no list, null
+// when what it has is none.
+const listed = await fetch('worlds.json')
   .then((response) => (response.ok ? response.json() : []))
-  .catch(() => []);
+  .then((entries) => (entries.every(({ file }) => urlOf(file)) ? entries : null))
+  .catch(() => null);
+const worlds = listed ?? [];
 
 // The URL of the world on show, and the number of worlds that were asked for so far: an answer
 // that arrives after a later question is dropped.
@@ -27,7 +30,7 @@ const emptyURL = browser?.currentScene.worldURL;
 // When the world on show was complete, in ms since the page began; never, while one is loading.
 let shownAt = Infinity;
 
-// What the page tells its reader: a title and one paragraph or more.
+// What the page tells its reader: a title and one paragraph or more, each a text or an element.
 class Trouble extends Error {
   constructor(title, ...details) {
     super(title);
@@ -41,8 +44,20 @@ function element(tag, properties, ...children) {
   return made;
 }
 
+// The URL of a world that is named relative to this page; null for what names none. A percent sign
+// that begins no escape stands for itself.
+function urlOf(name) {
+  const mended = String(name ?? '').replace(/%(?![\da-f]{2})/gi, '%25');
+  return mended && URL.canParse(mended, document.baseURI) ? new URL(mended, document.baseURI) : null;
+}
+
 function fileName(url) {
-  return decodeURIComponent(new URL(url).pathname.split('/').pop());
+  const name = new URL(url).pathname.split('/').pop();
+  try {
+    return decodeURIComponent(name);
+  } catch {
+    return name;  // Escapes of something other than UTF-8.
+  }
 }
 
 // The address of this page with the world at `url`, which is named relative to the page where it
@@ -64,21 +79,28 @@ function showStatus(words) {
 function showTrouble(trouble) {
   alert.replaceChildren(
     element('h2', {}, trouble.message),
-    ...trouble.details.map((words) => element('p', {}, words)),
+    ...trouble.details.map((detail) => element('p', {}, detail)),
   );
   alert.hidden = false;
+}
+
+function unreadableList() {
+  return new Trouble(
+    'The list of worlds cannot be read',
+    'worlds.json is an array of objects, each with the file of a world and its title.',
+  );
 }
 
 // The world that the page's address asks for; without a name, the first of the list.
 function requested() {
   const name = new URLSearchParams(location.search).get('world') ?? worlds[0]?.file;
   if (!name) {
-    throw new Trouble(
+    throw !listed ? unreadableList() : new Trouble(
       'No world to show',
       'Name one in the address of this page: ?world=NAME.wrl.',
     );
   }
-  const url = URL.canParse(name, document.baseURI) ? new URL(name, document.baseURI) : null;
+  const url = urlOf(name);
   if (url?.origin !== location.origin) {
     throw new Trouble('That world lies elsewhere', 'Only worlds of this site are shown here.');
   }
@@ -181,8 +203,8 @@ function missingProtos() {
 
 function listWorlds() {
   const links = worlds.map(({ file, title }) => {
-    const url = new URL(file, document.baseURI).href;
-    return element('li', {}, element('a', { href: addressOf(url) }, title ?? file));
+    const { href } = urlOf(file);
+    return element('li', {}, element('a', { href: addressOf(href) }, title ?? file));
   });
   list.querySelector('ul').replaceChildren(...links);
   list.hidden = links.length === 0;
@@ -190,7 +212,7 @@ function listWorlds() {
 
 // Names the current world in the heading and marks it in the list.
 function announce() {
-  const entry = worlds.find(({ file }) => new URL(file, document.baseURI).href === current);
+  const entry = worlds.find(({ file }) => urlOf(file).href === current);
   heading.textContent = entry?.title ?? fileName(current);
   document.title = `${heading.textContent} – Orvane`;
 
@@ -224,6 +246,7 @@ async function openRequested() {
     if (!(trouble instanceof Trouble)) throw trouble;
     giveUp(trouble);
   }
+  if (!listed && alert.hidden) showTrouble(unreadableList());
 }
 
 // A link inside the world led to another world.
@@ -249,6 +272,24 @@ function watchRequests(entries) {
   if (failed) showDeadLink();
 }
 
+// The page's content security policy has kept something of the world from being fetched.
+function showBlocked({ blockedURI }) {
+  showTrouble(new Trouble(
+    'The world asks for something of another site',
+    `Nothing is fetched from there: ${blockedURI}`,
+  ));
+}
+
+// A link inside the world, or one of its scripts, leads out of this site: the reader decides.
+// Browsers that do not tell of it let it go.
+function holdBack(event) {
+  const { url } = event.destination;
+  if (!event.cancelable || new URL(url).origin === location.origin) return;
+  event.preventDefault();
+  const link = element('a', { href: url, target: '_blank', rel: 'noreferrer' }, url);
+  showTrouble(new Trouble('The link leads to another site', link));
+}
+
 function start() {
   list.addEventListener('click', (event) => {
     const link = event.target.closest('a');
@@ -262,6 +303,8 @@ function start() {
 
   canvas.addEventListener('load', followLink);
   canvas.addEventListener('error', showDeadLink);
+  document.addEventListener('securitypolicyviolation', showBlocked);
+  globalThis.navigation?.addEventListener('navigate', holdBack);
   new PerformanceObserver(watchRequests).observe({ type: 'resource' });
 
   listWorlds();

@@ -35,6 +35,7 @@ enum class ErrorNumber : std::uint32_t {
   RouteOutsideScene = 0x8004020A,  ///< A ROUTE end that is not in the scene or has no DEF name.
   UnknownEvent = 0x8004020B,       ///< A ROUTE event that its node does not have.
   EventTypeMismatch = 0x8004020C,  ///< A ROUTE between events of different types.
+  SceneTooDeep = 0x8004020D,       ///< More nodes one below the other than can be written.
 };
 
 /// What every rejected call throws. The description is meant for people: it says what is wrong and

@@ -4,6 +4,10 @@
 #include "orvane/automation/AutomationError.h"
 #include "orvane/scene/frmMain.h"
 
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
 namespace orvane {
 
 ChartLegend::ChartLegend()
@@ -42,9 +46,17 @@ void ChartLegend::TextHeight(float height) {
   m_legend->entryGap.Value(gap);
 }
 
-void ChartLegend::AddEntry(const std::shared_ptr<scene::Appearance>& key, const std::string& text) {
-  m_legend->keyAppearances.Insert(1, key);
-  m_legend->entryTexts.Insert(1, text);
+void ChartLegend::AddEntries(const std::vector<Entry>& entries) {
+  scene::MFNode::List keys;
+  scene::MFString::List texts;
+  for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
+    keys.push_back(entry->key);
+    texts.push_back(entry->text);
+  }
+  std::ranges::copy(m_legend->keyAppearances.Items(), std::back_inserter(keys));
+  std::ranges::copy(m_legend->entryTexts.Items(), std::back_inserter(texts));
+  m_legend->keyAppearances.Items(std::move(keys));
+  m_legend->entryTexts.Items(std::move(texts));
 }
 
 void ChartLegend::ClearEntries() {

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -40,8 +41,12 @@ class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
  protected:
   ChartLegend();
 
-  /// Adds an entry below those there are.
-  void AddEntry(const std::shared_ptr<scene::Appearance>& key, const std::string& text);
+  struct Entry {
+    std::shared_ptr<scene::Appearance> key;
+    std::string text;
+  };
+  /// Adds entries, in order, below those there are.
+  void AddEntries(const std::vector<Entry>& entries);
   void ClearEntries();
 
   float EntryGap() const { return m_legend->entryGap.Value(); }

@@ -20,6 +20,8 @@ class ORVANE_API IContinuousAxis : public virtual IAxis {
   virtual void Order(LabelingOrder order) = 0;
 };
 
+/// Where labels cannot be made of Min, Max, Count or Order, their let raises the error when it has
+/// stored the new value, and the old labels stay.
 class ORVANE_API ContinuousAxis final : public Axis, public IContinuousAxis {
  public:
   static constexpr const char* kClassName = "ContinuousAxis";

@@ -21,10 +21,11 @@ float Extent(const scene::SFInt32& lineCount, const scene::SFFloat& spacing) {
 }
 
 /// The size of one of `cells` cells. Raises Overflow when that is too small for a float of full
-/// precision, so that sizes taken from it never come to 0.
+/// precision, so that sizes taken from it never come to 0. Only a grid without extent has cells of
+/// size 0.
 float CellSize(float extent, std::int16_t cells) {
   const float size = Single(Quotient(extent, cells));
-  if (size < std::numeric_limits<float>::min()) {
+  if (size < std::numeric_limits<float>::min() && extent != 0) {
     throw host::AutomationError(host::ErrorNumber::Overflow,
                                 "Overflow: a grid cell of that size does not fit a 32-bit float");
   }
@@ -37,9 +38,9 @@ void SetExtent(float extent, const scene::SFInt32& lineCount, scene::SFFloat& sp
   spacing.Value(CellSize(extent, CellCount(lineCount)));
 }
 
-/// Raises `changed` at the end; what one of its handlers rejects is taken back.
+/// Sets count and spacing, which go back when the chart does not follow.
 void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat& spacing,
-                  host::Event<std::int16_t>& changed, const char* message) {
+                  host::Event<std::int16_t>* followed, const char* message) {
   host::Require(count >= 1, message);
   const std::int16_t lines = Int16(count + 1);
   const float cell = CellSize(Extent(lineCount, spacing), count);
@@ -48,7 +49,7 @@ void SetCellCount(std::int16_t count, scene::SFInt32& lineCount, scene::SFFloat&
   lineCount.Value(lines);
   spacing.Value(cell);
   try {
-    changed(count);
+    if (followed != nullptr) (*followed)(count);
   } catch (...) {
     lineCount.Value(oldLines);
     spacing.Value(oldCell);
@@ -62,17 +63,20 @@ const host::TypeInfo& GridInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<GridInfo>("The box of grid lines and walls that a chart's data stands in.")
           .Property<float>("Width", &GridInfo::Width, &GridInfo::Width,
-                           {"Extent along X; keeps the cell count", "scene units", "> 0", "8"})
+                           {"Extent along X; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "8"})
           .Property<std::int16_t>("XAxisCellCount", &GridInfo::XAxisCellCount,
                                   &GridInfo::XAxisCellCount,
                                   {"Cells along X; keeps Width", "", "1..32766", "4"})
           .Property<float>("Height", &GridInfo::Height, &GridInfo::Height,
-                           {"Extent along Y; keeps the cell count", "scene units", "> 0", "6"})
+                           {"Extent along Y; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "6"})
           .Property<std::int16_t>("YAxisCellCount", &GridInfo::YAxisCellCount,
                                   &GridInfo::YAxisCellCount,
                                   {"Cells along Y; keeps Height", "", "1..32766", "4"})
           .Property<float>("Depth", &GridInfo::Depth, &GridInfo::Depth,
-                           {"Extent along Z; keeps the cell count", "scene units", "> 0", "8"})
+                           {"Extent along Z; keeps the cell count", "scene units",
+                            "> 0; cells >= 1.17549e-38", "8"})
           .Property<std::int16_t>("ZAxisCellCount", &GridInfo::ZAxisCellCount,
                                   &GridInfo::ZAxisCellCount,
                                   {"Cells along Z; keeps Depth", "", "1..32766", "4"})
@@ -106,8 +110,9 @@ void GridInfo::Width(float value) {
 std::int16_t GridInfo::XAxisCellCount() const { return CellCount(m_grid->xLineCount); }
 
 void GridInfo::XAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing, XCellCountChanged,
+  SetCellCount(count, m_grid->xLineCount, m_grid->xSpacing, &XCellCountFollowed,
                "The graph must have at least one cell on the X axis");
+  XCellCountChanged(count);
 }
 
 float GridInfo::Height() const { return Extent(m_grid->yLineCount, m_grid->ySpacing); }
@@ -119,8 +124,9 @@ void GridInfo::Height(float value) {
 std::int16_t GridInfo::YAxisCellCount() const { return CellCount(m_grid->yLineCount); }
 
 void GridInfo::YAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing, YCellCountChanged,
+  SetCellCount(count, m_grid->yLineCount, m_grid->ySpacing, nullptr,
                "The graph must have at least one cell on the Y axis");
+  YCellCountChanged(count);
 }
 
 float GridInfo::Depth() const { return Extent(m_grid->zLineCount, m_grid->zSpacing); }
@@ -132,8 +138,9 @@ void GridInfo::Depth(float value) {
 std::int16_t GridInfo::ZAxisCellCount() const { return CellCount(m_grid->zLineCount); }
 
 void GridInfo::ZAxisCellCount(std::int16_t count) {
-  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing, ZCellCountChanged,
+  SetCellCount(count, m_grid->zLineCount, m_grid->zSpacing, &ZCellCountFollowed,
                "The graph must have at least one cell on the Z axis");
+  ZCellCountChanged(count);
 }
 
 void GridInfo::Transparency(float value) {

@@ -15,7 +15,8 @@ namespace orvane {
 /// The box of grid lines and walls, from (0, 0, 0) to (Width, Height, Depth) in scene units.
 ///
 /// Extent = spacing x cells along each axis; the node's own fields are the only store. A cell count
-/// of 32767 raises Overflow: its line count does not fit 16 bits.
+/// of 32767 raises Overflow: its line count does not fit 16 bits. So does an extent or a count that
+/// makes cells smaller than 1.17549e-38, the least float of full precision.
 class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
  public:
   static constexpr const char* kClassName = "GridInfo";
@@ -54,11 +55,16 @@ class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
   float Transparency() const { return m_wallMaterial->transparency.Value(); }
   void Transparency(float value);
 
-  /// Raised after the count and its spacing have changed, with the new count. When the chart
-  /// cannot follow and raises an error, the grid goes back to the old one.
+  /// Raised after the count and its spacing have changed and the chart has followed, with the new
+  /// count. What a handler raises changes nothing of that.
   host::Event<std::int16_t> XCellCountChanged;
   host::Event<std::int16_t> YCellCountChanged;
   host::Event<std::int16_t> ZCellCountChanged;
+
+  /// For the grid's chart alone, which follows a new count here, all the way or, raising an error,
+  /// not at all: then the let is rejected and the grid keeps the old count.
+  host::Event<std::int16_t> XCellCountFollowed;
+  host::Event<std::int16_t> ZCellCountFollowed;
 
   std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
 

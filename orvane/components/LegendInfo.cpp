@@ -41,11 +41,24 @@ void LegendInfo::UseSeriesToggle(bool use) {
 
 void LegendInfo::AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp,
                                 const std::string& newText) {
-  AddEntry(newApp, newText);
-  m_toggles->AddCheckBox();
+  AddPending(newApp, newText);
+  ShowPending();
+}
+
+void LegendInfo::AddPending(const std::shared_ptr<scene::Appearance>& key,
+                            const std::string& text) {
+  m_toggles->MakeCheckBox();
+  m_pending.push_back({key, text});
+}
+
+void LegendInfo::ShowPending() {
+  AddEntries(m_pending);
+  m_pending.clear();
+  m_toggles->LayoutCheckBoxes();
 }
 
 void LegendInfo::ClearLegend() {
+  m_pending.clear();
   ClearEntries();
   m_toggles->ClearCheckBoxes();
 }

@@ -44,10 +44,16 @@ class ORVANE_API LegendInfo final : public ChartLegend, public ILegendInfo {
   std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const override;
   std::shared_ptr<scene::Node> BillboardNode() const override { return Board(); }
 
+  /// As AddLegendEntry, but for `ShowPending`, which takes in all entries since the last in one go:
+  /// one by one, many take long. Their check boxes are there at once.
+  void AddPending(const std::shared_ptr<scene::Appearance>& key, const std::string& text);
+  void ShowPending();
+
  private:
   void Resize(float textHeight, float gap) override;
 
   std::shared_ptr<SeriesToggleInfo> m_toggles;
+  std::vector<Entry> m_pending;
   bool m_usesToggles = false;
 };
 

@@ -38,6 +38,11 @@ std::shared_ptr<scene::Node> SeriesToggleInfo::Get1CheckBox(std::int16_t index) 
 }
 
 void SeriesToggleInfo::AddCheckBox() {
+  MakeCheckBox();
+  LayoutCheckBoxes();
+}
+
+void SeriesToggleInfo::MakeCheckBox() {
   const std::int16_t number = Int16(Count() + 1);
   auto box = scene::Create<scene::CheckBox>();
   box->boxSize.Value(m_height);
@@ -48,7 +53,6 @@ void SeriesToggleInfo::AddCheckBox() {
   m_root->children.Append(transform);
   m_boxes.push_back(std::move(box));
   m_transforms.push_back(std::move(transform));
-  LayoutCheckBoxes();
 }
 
 void SeriesToggleInfo::Spacing(float spacing) {
@@ -81,7 +85,7 @@ void SeriesToggleInfo::Resize(float height, float spacing) {
 }
 
 void SeriesToggleInfo::LayoutCheckBoxes() {
-  const double pitch = static_cast<double>(m_height) + m_spacing;
+  const float pitch = Single(static_cast<double>(m_height) + m_spacing);
   auto below = static_cast<double>(m_transforms.size());
   for (const auto& transform : m_transforms) transform->translation.Y(Single(--below * pitch));
 }

@@ -11,7 +11,8 @@
 
 namespace orvane {
 
-/// Box i of n stands at y = (n - i) x (Height + Spacing): the first one is the topmost.
+/// Box i of n stands at y = (n - i) x (Height + Spacing), in 32-bit floats: the first one is the
+/// topmost.
 class ORVANE_API SeriesToggleInfo final : public host::Object, public ISceneRoot {
  public:
   static constexpr const char* kClassName = "SeriesToggleInfo";
@@ -32,14 +33,16 @@ class ORVANE_API SeriesToggleInfo final : public host::Object, public ISceneRoot
   void ClearCheckBoxes();
   std::int16_t Count() const;
 
+  /// Adds a box whose place `LayoutCheckBoxes` gives it, once all are made.
+  void MakeCheckBox();
+  void LayoutCheckBoxes();
+
   /// Sets both at once: all boxes move or none.
   void Resize(float height, float spacing);
 
   std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
 
  private:
-  void LayoutCheckBoxes();
-
   std::shared_ptr<scene::Transform> m_root;
   std::vector<std::shared_ptr<scene::CheckBox>> m_boxes;
   std::vector<std::shared_ptr<scene::Transform>> m_transforms;

@@ -32,8 +32,14 @@ const host::TypeInfo& OrvaneTemplateCtl::Type() const {
   return type;
 }
 
-OrvaneTemplateCtl::OrvaneTemplateCtl() {
-  OrvaneModule::RelativeProtoPath(ProtoSettings::ProtoDir(""));
+OrvaneTemplateCtl::OrvaneTemplateCtl() : m_protoDir(ProtoSettings::ProtoDir("")) {
+  OrvaneModule::RelativeProtoPath(m_protoDir);
+}
+
+std::shared_ptr<GraphFactory> OrvaneTemplateCtl::CreateFactory() {
+  // A folder says nothing to a world, which may lie anywhere.
+  if (!m_protoDir.empty() && RelativeProtoPath() == m_protoDir) InitProperties();
+  return m_factory;
 }
 
 std::string OrvaneTemplateCtl::RelativeProtoPath() const {
@@ -47,11 +53,13 @@ void OrvaneTemplateCtl::RelativeProtoPath(const std::string& path) {
                                     host::MessageIcon::Exclamation, "Orvane Template OCX");
     return;
   }
+  m_protoDir.clear();
   OrvaneModule::RelativeProtoPath(trimmed);
   PropertyChanged("RelativeProtoPath");
 }
 
 void OrvaneTemplateCtl::InitProperties() {
+  m_protoDir.clear();
   OrvaneModule::RelativeProtoPath("");
   std::string outputDir;
   std::string protoDir;
@@ -65,6 +73,7 @@ void OrvaneTemplateCtl::InitProperties() {
 }
 
 void OrvaneTemplateCtl::ReadProperties(const host::PropertyBag& bag) {
+  m_protoDir.clear();
   OrvaneModule::RelativeProtoPath(bag.ReadProperty(kProtoPathProperty, ""));
 }
 

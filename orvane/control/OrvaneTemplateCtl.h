@@ -11,7 +11,8 @@
 namespace orvane {
 
 /// Making one sets the process-wide RelativeProtoPath to the user's ProtoDir setting, or to nothing
-/// where there is none; being placed on a form sets it to what leads a world to its PROTO files.
+/// where there is none; being placed on a form sets it to what leads a world to its PROTO files. So
+/// does asking for the factory of one that was never placed, unless the path was set in between.
 class ORVANE_API OrvaneTemplateCtl final : public host::Control {
  public:
   static constexpr const char* kClassName = "OrvaneTemplateCtl";
@@ -20,7 +21,7 @@ class ORVANE_API OrvaneTemplateCtl final : public host::Control {
   OrvaneTemplateCtl();
 
   /// The same factory at each call.
-  std::shared_ptr<GraphFactory> CreateFactory() const { return m_factory; }
+  std::shared_ptr<GraphFactory> CreateFactory();
   /// A new scaler at each call.
   std::shared_ptr<OrvaneScaler> CreateScaler() const { return std::make_shared<OrvaneScaler>(); }
 
@@ -44,6 +45,8 @@ class ORVANE_API OrvaneTemplateCtl final : public host::Control {
 
  private:
   std::shared_ptr<GraphFactory> m_factory = std::make_shared<GraphFactory>();
+  /// The ProtoDir setting that the path was set to, until something else has set it.
+  std::string m_protoDir;
 };
 
 }  // namespace orvane

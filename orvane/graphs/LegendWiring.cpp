@@ -6,7 +6,7 @@ std::shared_ptr<scene::Node> LegendWiring::Add(const std::shared_ptr<scene::Appe
                                                const std::string& text,
                                                const std::shared_ptr<scene::ContentToggle>& toggle,
                                                const std::string& toggleName) {
-  m_legend.AddLegendEntry(appearance, text);
+  m_legend.AddPending(appearance, text);
   ++m_entryCount;
   if (!m_legend.UseSeriesToggle()) {
     Skip(*toggle);

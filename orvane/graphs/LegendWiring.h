@@ -12,7 +12,7 @@
 
 namespace orvane {
 
-/// One run through a chart's series. It begins with an empty legend.
+/// One run through a chart's series. It begins with an empty legend; `Finish` ends it.
 class ORVANE_API LegendWiring {
  public:
   LegendWiring(LegendInfo& legend, scene::RouteList& routes) : m_legend(legend), m_routes(routes) {
@@ -28,6 +28,9 @@ class ORVANE_API LegendWiring {
                                    const std::string& text,
                                    const std::shared_ptr<scene::ContentToggle>& toggle,
                                    const std::string& toggleName);
+
+  /// Shows the entries.
+  void Finish() { m_legend.ShowPending(); }
 
  private:
   LegendInfo& m_legend;

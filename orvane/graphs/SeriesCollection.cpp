@@ -4,6 +4,7 @@
 #include "orvane/automation/AutomationError.h"
 #include "orvane/automation/Describe.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace orvane {
@@ -38,6 +39,14 @@ void SeriesCollection::RemoveSeries(std::int16_t index) {
 void SeriesCollection::AddSeries(const std::shared_ptr<ISeriesInfo>& vNewValue) {
   (void)host::Int16(Count() + 1);
   m_items.push_back(vNewValue);
+}
+
+SeriesCollection::Items SeriesCollection::Resized(std::int16_t count, const Make& make) const {
+  if (count < Count()) (void)Position(host::Int16(count + 1));  // Rejects a negative count.
+  Items items = m_items;
+  items.resize(std::min(items.size(), static_cast<std::size_t>(count)));
+  while (items.size() < static_cast<std::size_t>(count)) items.push_back(make());
+  return items;
 }
 
 std::int16_t SeriesCollection::Count() const {

@@ -4,7 +4,9 @@
 #include "orvane/automation/Object.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace orvane {
@@ -26,6 +28,9 @@ class ORVANE_API SeriesCollection final : public host::Object, public ISeriesInf
   static constexpr const char* kClassName = "SeriesCollection";
   const host::TypeInfo& Type() const override;
 
+  using Items = std::vector<std::shared_ptr<ISeriesInfo>>;
+  using Make = std::function<std::shared_ptr<ISeriesInfo>()>;
+
   std::shared_ptr<ISeriesInfo> Get1Series(std::int16_t index) const;
   /// Removes one item; later ones move down by a place.
   void RemoveSeries(std::int16_t index);
@@ -33,6 +38,13 @@ class ORVANE_API SeriesCollection final : public host::Object, public ISeriesInf
   void AddSeries(const std::shared_ptr<ISeriesInfo>& vNewValue);
   void ClearSeries() { m_items.clear(); }
   std::int16_t Count() const;
+
+  /// Brings the list to `count` items, >= 0: drops trailing ones, or adds what `make` makes, all of
+  /// it or none.
+  void Resize(std::int16_t count, const Make& make) { Replace(Resized(count, make)); }
+  /// The items that the list would have then.
+  Items Resized(std::int16_t count, const Make& make) const;
+  void Replace(Items items) noexcept { m_items = std::move(items); }
 
   /// Item `index` as the class that its chart put in.
   template <class T>
@@ -43,7 +55,7 @@ class ORVANE_API SeriesCollection final : public host::Object, public ISeriesInf
  private:
   std::size_t Position(std::int16_t index) const;
 
-  std::vector<std::shared_ptr<ISeriesInfo>> m_items;
+  Items m_items;
 };
 
 }  // namespace orvane

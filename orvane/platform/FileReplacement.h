@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
+#include "orvane/platform/TemporaryFile.h"
 
 #include <filesystem>
 #include <string_view>
@@ -10,18 +11,19 @@
 namespace orvane::host {
 
 /// The new text of a file, written beside it and moved into place on demand; without that, the old
-/// file stays whole. Links are followed. What is no regular file (a terminal, a pipe) and what a
-/// link leads to but is not there yet is written only when it is to be moved.
+/// file stays whole. Links are followed. What is no regular file (a terminal, a pipe) is written
+/// only when it is to be moved. A file that may not be written is not replaced.
 class ORVANE_API FileReplacement {
  public:
   /// Writes `text`, which must last until it is moved, to a temporary neighbour of `file`.
-  FileReplacement(std::filesystem::path file, std::string_view text);
-  FileReplacement(const FileReplacement&) = delete;
-  FileReplacement& operator=(const FileReplacement&) = delete;
-  ~FileReplacement();
+  FileReplacement(const std::filesystem::path& file, std::string_view text);
 
   /// Why the text could not be written; nothing where it could.
   std::error_code Error() const { return m_error; }
+  /// The file itself, behind all links, as far as it could be found.
+  const std::filesystem::path& File() const { return m_file; }
+  /// Whether it is there and no regular file.
+  bool IsDevice() const { return m_isDevice; }
   /// Puts the text into the file's place and returns why that failed, if it did.
   std::error_code MoveIntoPlace();
 
@@ -30,7 +32,8 @@ class ORVANE_API FileReplacement {
 
   std::filesystem::path m_file;
   std::string_view m_text;
-  std::filesystem::path m_neighbour;  ///< Empty where there is none to move or to remove.
+  bool m_isDevice = false;
+  TemporaryFile m_neighbour;
   std::error_code m_error;
 };
 

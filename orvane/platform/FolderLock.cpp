@@ -21,14 +21,14 @@ void MakeFolder(const fs::path& folder) {
   if (fs::create_directory(folder)) fs::permissions(folder, fs::perms::owner_all);
 }
 
-bool IsStill(int descriptor, const fs::path& folder) {
+}  // namespace
+
+bool IsStill(int descriptor, const fs::path& path) {
   struct stat held {};
   struct stat named {};
-  return fstat(descriptor, &held) == 0 && stat(folder.c_str(), &named) == 0 &&
+  return fstat(descriptor, &held) == 0 && stat(path.c_str(), &named) == 0 &&
          held.st_ino == named.st_ino && held.st_dev == named.st_dev;
 }
-
-}  // namespace
 
 FolderLock::FolderLock(const fs::path& folder) {
   for (;;) {

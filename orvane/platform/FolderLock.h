@@ -7,6 +7,9 @@
 
 namespace orvane::host {
 
+/// Whether `path` still names the file or folder that is open as `descriptor`.
+bool IsStill(int descriptor, const std::filesystem::path& path);
+
 /// Held while it lives; the next one to lock the folder, in this program or another, waits. It is
 /// a lock on the folder itself: nothing is left behind, however the program ends.
 class ORVANE_API FolderLock {

@@ -21,6 +21,32 @@ const char* NameOf(AccessKind access) {
   return "";
 }
 
+namespace {
+
+const char* NameOf(NodeRole role) {
+  switch (role) {
+    case NodeRole::Any:
+      return "nodes";
+    case NodeRole::Child:
+      return "children nodes";
+    case NodeRole::Appearance:
+      return "Appearance";
+    case NodeRole::Material:
+      return "Material";
+    case NodeRole::Texture:
+      return "texture nodes";
+    case NodeRole::TextureTransform:
+      return "TextureTransform";
+    case NodeRole::Geometry:
+      return "geometry nodes";
+    case NodeRole::FontStyle:
+      return "FontStyle";
+  }
+  return "";
+}
+
+}  // namespace
+
 Field::Field(Node& owner, const char* name, const char* type, AccessKind access)
     : m_owner(&owner), m_name(name) {
   owner.AddToInterface({name, type, access, this});
@@ -36,6 +62,15 @@ std::shared_ptr<host::Object> Field::Self() {
 
 std::string Field::Where() const {
   return m_owner == nullptr ? Type().Name() : m_owner->TypeName() + std::string(".") + m_name;
+}
+
+const std::shared_ptr<Node>& Field::Checked(const std::shared_ptr<Node>& node,
+                                            NodeRole role) const {
+  if (node != nullptr && role != NodeRole::Any && node->Role() != role) {
+    Raise(host::ErrorNumber::TypeMismatch,
+          Where() + " takes " + NameOf(role) + ", not " + node->TypeName());
+  }
+  return node;
 }
 
 void Field::RaiseRange(double value, const Interval& range) const {

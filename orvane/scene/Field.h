@@ -13,6 +13,7 @@ namespace orvane::scene {
 class Field;
 class Node;
 class SceneWriter;
+enum class NodeRole;
 
 /// How VRML97 lets a field or event of a node be used.
 enum class AccessKind { Field, ExposedField, EventIn, EventOut };
@@ -75,6 +76,9 @@ class ORVANE_API Field : public host::Object {
     if (!(value - value == 0) || !range.Contains(value)) RaiseRange(value, range);
     return value;
   }
+
+  /// `node` when it may stand in a field for `role`; else TypeMismatch, naming the field.
+  const std::shared_ptr<Node>& Checked(const std::shared_ptr<Node>& node, NodeRole role) const;
 
   [[noreturn]] void RaiseRange(double value, const Interval& range) const;
 

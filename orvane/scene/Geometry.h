@@ -1,15 +1,17 @@
 /// The value types of VRML97 fields that have more than one component.
 #pragma once
 
+#include "orvane/automation/Export.h"
+
 namespace orvane::scene {
 
-struct Vec2f {
+struct ORVANE_API Vec2f {
   float x = 0;
   float y = 0;
   friend bool operator==(const Vec2f&, const Vec2f&) = default;
 };
 
-struct Vec3f {
+struct ORVANE_API Vec3f {
   float x = 0;
   float y = 0;
   float z = 0;
@@ -17,7 +19,7 @@ struct Vec3f {
 };
 
 /// A turn by `angle` radians about the axis (x, y, z), right-handed.
-struct Rotation {
+struct ORVANE_API Rotation {
   float x = 0;
   float y = 0;
   float z = 1;
@@ -26,7 +28,7 @@ struct Rotation {
 };
 
 /// Red, green and blue, each in [0, 1].
-struct Color {
+struct ORVANE_API Color {
   float red = 0;
   float green = 0;
   float blue = 0;

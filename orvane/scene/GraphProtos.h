@@ -27,7 +27,7 @@ class ORVANE_API ChartGrid final : public GraphProto<ChartGrid> {
  public:
   static constexpr const char* kClassName = "qm4_ChartGrid";
 
-  SFNode wallAppearance{*this, "wallAppearance"};
+  SFNode wallAppearance{*this, "wallAppearance", NodeRole::Appearance};
   SFColor lineColor{*this, "lineColor", {0, 0, 0}};
   SFInt32 xLineCount{*this, "xLineCount", 5};
   SFFloat xSpacing{*this, "xSpacing", 2};
@@ -42,7 +42,7 @@ class ORVANE_API Legend final : public GraphProto<Legend> {
  public:
   static constexpr const char* kClassName = "qm4_Legend";
 
-  MFNode keyAppearances{*this, "keyAppearances", AccessKind::Field};
+  MFNode keyAppearances{*this, "keyAppearances", NodeRole::Appearance, AccessKind::Field};
   EventIn<MFNode> set_keyAppearances{*this, "set_keyAppearances"};
   EventOut<MFNode> keyAppearances_changed{*this, "keyAppearances_changed"};
   MFString entryTexts{*this, "entryTexts"};
@@ -56,7 +56,7 @@ class ORVANE_API OutlinedAreaSeries final : public GraphProto<OutlinedAreaSeries
  public:
   static constexpr const char* kClassName = "qm4_OutlinedAreaSeries";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFInt32 count{*this, "count", 4};
   SFFloat spacing{*this, "spacing", 2};
   SFFloat depth{*this, "depth", 1};
@@ -67,7 +67,7 @@ class ORVANE_API OutlinedColumnSeries final : public GraphProto<OutlinedColumnSe
  public:
   static constexpr const char* kClassName = "qm4_OutlinedColumnSeries";
 
-  MFNode appearance{*this, "appearance"};
+  MFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFColor edgeColor{*this, "edgeColor", {0, 0, 0}};
   SFInt32 count{*this, "count", 4};
   SFFloat spacing{*this, "spacing", 2};
@@ -80,7 +80,7 @@ class ORVANE_API RoundedColumnSeries final : public GraphProto<RoundedColumnSeri
  public:
   static constexpr const char* kClassName = "qm4_RoundedColumnSeries";
 
-  MFNode appearance{*this, "appearance"};
+  MFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFInt32 count{*this, "count", 4};
   SFFloat spacing{*this, "spacing", 2};
   SFFloat width{*this, "width", 1};
@@ -94,7 +94,7 @@ class ORVANE_API OutlinedRibbonSeries final : public GraphProto<OutlinedRibbonSe
  public:
   static constexpr const char* kClassName = "qm4_OutlinedRibbonSeries";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFColor edgeColor{*this, "edgeColor", {0, 0, 0}};
   SFInt32 count{*this, "count", 4};
   SFFloat spacing{*this, "spacing", 2};
@@ -107,7 +107,7 @@ class ORVANE_API RoundedRibbonSeries final : public GraphProto<RoundedRibbonSeri
  public:
   static constexpr const char* kClassName = "qm4_RoundedRibbonSeries";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFInt32 count{*this, "count", 4};
   SFFloat spacing{*this, "spacing", 2};
   SFFloat thickness{*this, "thickness", 0.2F};
@@ -156,7 +156,7 @@ class ORVANE_API OutlinedPieSlice final : public GraphProto<OutlinedPieSlice> {
  public:
   static constexpr const char* kClassName = "qm4_OutlinedPieSlice";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFColor edgeColor{*this, "edgeColor", {0, 0, 0}};
   SFFloat height{*this, "height", 1};
   SFFloat radius{*this, "radius", 3};
@@ -167,7 +167,7 @@ class ORVANE_API RoundedPieSlice final : public GraphProto<RoundedPieSlice> {
  public:
   static constexpr const char* kClassName = "qm4_RoundedPieSlice";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFFloat height{*this, "height", 1};
   SFFloat radius{*this, "radius", 3};
   SFFloat angle{*this, "angle", 1.256636F};
@@ -178,7 +178,7 @@ class ORVANE_API RoundedRingSlice final : public GraphProto<RoundedRingSlice> {
  public:
   static constexpr const char* kClassName = "qm4_RoundedRingSlice";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFFloat height{*this, "height", 1};
   SFFloat radius{*this, "radius", 3};
   SFFloat innerRadius{*this, "innerRadius", 1.5F};
@@ -201,7 +201,7 @@ class ORVANE_API Surface final : public GraphProto<Surface> {
  public:
   static constexpr const char* kClassName = "qm4_Surface";
 
-  SFNode appearance{*this, "appearance"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
   SFFloat creaseAngle{*this, "creaseAngle", 1};
   SFBool solid{*this, "solid", false};
   SFInt32 xDimension{*this, "xDimension", 2};

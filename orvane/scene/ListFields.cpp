@@ -305,7 +305,8 @@ void MFNode::Insert(std::int32_t index, const std::shared_ptr<Node>& node) {
 }
 
 void MFNode::Remove(const std::shared_ptr<Node>& node) {
-  const auto found = std::ranges::find(m_items, CheckedNode(node));
+  RequireNode(node);
+  const auto found = std::ranges::find(m_items, node);
   if (found == m_items.end()) {
     Raise(ErrorNumber::NodeNotInList,
           Where() + " does not hold this " + node->TypeName() + ", so it cannot be removed");
@@ -314,8 +315,12 @@ void MFNode::Remove(const std::shared_ptr<Node>& node) {
 }
 
 const std::shared_ptr<Node>& MFNode::CheckedNode(const std::shared_ptr<Node>& node) const {
+  RequireNode(node);
+  return Checked(node, m_role);
+}
+
+void MFNode::RequireNode(const std::shared_ptr<Node>& node) const {
   if (node == nullptr) Raise(ErrorNumber::NoNode, Where() + " takes nodes only");
-  return node;
 }
 
 void MFNode::VisitNodes(const std::function<void(const Node&)>& visit) const {

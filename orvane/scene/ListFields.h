@@ -173,10 +173,15 @@ class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> 
   const host::TypeInfo& Type() const override;
 
   MFNode() = default;
-  MFNode(Node& owner, const char* name, AccessKind access = AccessKind::ExposedField)
-      : ListField(owner, name, {}, access) {}
+  MFNode(Node& owner, const char* name, NodeRole role = NodeRole::Child,
+         AccessKind access = AccessKind::ExposedField)
+      : ListField(owner, name, {}, access), m_role(role) {}
+  ~MFNode() override {
+    for (auto& node : m_items) LetGo(node);
+  }
 
-  /// The node must be one; NoNode otherwise.
+  /// The node must be one, NoNode otherwise, and of a type that VRML97 lets the field hold;
+  /// TypeMismatch otherwise.
   void Append(const std::shared_ptr<Node>& node);
   /// Puts `node` at position `index`, 1..Count + 1, moving later entries back.
   void Insert(std::int32_t index, const std::shared_ptr<Node>& node);
@@ -188,6 +193,9 @@ class ORVANE_API MFNode final : public ListField<MFNode, std::shared_ptr<Node>> 
  private:
   void Check(const List& items) const override;
   const std::shared_ptr<Node>& CheckedNode(const std::shared_ptr<Node>& node) const;
+  void RequireNode(const std::shared_ptr<Node>& node) const;
+
+  NodeRole m_role = NodeRole::Any;
 };
 
 }  // namespace orvane::scene

@@ -52,6 +52,26 @@ void Node::SetDefName(const std::string& name) {
   m_defName = name;
 }
 
+void LetGo(std::shared_ptr<Node>& node) noexcept {
+  // The nodes that wait for their end, while one comes to it: a chain, which needs no memory.
+  thread_local std::shared_ptr<Node>* waiting = nullptr;
+  if (node.use_count() != 1) {
+    node.reset();
+  } else if (waiting != nullptr) {
+    node->m_nextToGo = std::move(*waiting);
+    *waiting = std::move(node);
+  } else {
+    auto first = std::move(node);
+    waiting = &first;
+    while (first != nullptr) {
+      auto going = std::move(first);
+      first = std::move(going->m_nextToGo);
+      going.reset();
+    }
+    waiting = nullptr;
+  }
+}
+
 host::TypeInfo Node::DescribeInterface() const {
   const auto setDefName = [](auto& node) {
     node.Method("SetDefName", &Node::SetDefName, {"name"},

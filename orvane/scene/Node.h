@@ -17,6 +17,19 @@ enum class Module { Core, Graph, Nav, Ui };
 /// The PROTO file of a module: "VR_GRAPH.wrl", "VR_NAV.wrl" or "VR_UI.wrl"; "" for Core.
 ORVANE_API const char* ProtoFileOf(Module module);
 
+/// Which fields a node may stand in, as ISO/IEC 14772-1 says field by field. An instance of a PROTO
+/// stands for the first node of the PROTO's body.
+enum class NodeRole {
+  Any,  ///< Of a field: one that belongs to no node.
+  Child,
+  Appearance,
+  Material,
+  Texture,
+  TextureTransform,
+  Geometry,
+  FontStyle
+};
+
 /// A node of the scene. A node class is its declaration: one data member per VRML97 field.
 class ORVANE_API Node : public host::Object {
  public:
@@ -24,6 +37,7 @@ class ORVANE_API Node : public host::Object {
 
   /// The VRML97 node type or PROTO name.
   virtual const char* TypeName() const = 0;
+  virtual NodeRole Role() const = 0;
 
   /// Fields and events in the order of ISO/IEC 14772-1, `children` first.
   const std::vector<InterfaceEntry>& Interface() const { return m_interface; }
@@ -39,6 +53,7 @@ class ORVANE_API Node : public host::Object {
 
  private:
   friend class Field;
+  friend void LetGo(std::shared_ptr<Node>& node) noexcept;
   template <class F>
   friend struct EventIn;
   template <class F>
@@ -47,7 +62,12 @@ class ORVANE_API Node : public host::Object {
 
   std::vector<InterfaceEntry> m_interface;
   std::string m_defName;
+  std::shared_ptr<Node> m_nextToGo;
 };
+
+/// Empties `node`. Nodes that come to their end with it do so one after the other rather than one
+/// inside the other, however deep they hang.
+ORVANE_API void LetGo(std::shared_ptr<Node>& node) noexcept;
 
 /// An instance of a PROTO: a node that knows the file its definition is in.
 class ORVANE_API ProtoInstance : public Node {
@@ -61,13 +81,15 @@ class ORVANE_API ProtoInstance : public Node {
   std::string m_protoSource;
 };
 
-/// What every node class repeats. `Self` declares kClassName.
+/// What every node class repeats. `Self` declares kClassName, and kRole where it is no child.
 template <class Self, class Base = Node>
 class NodeOf : public Base {
  public:
   static constexpr Module kModule = Module::Core;
+  static constexpr NodeRole kRole = NodeRole::Child;
 
   const char* TypeName() const final { return Self::kClassName; }
+  NodeRole Role() const final { return Self::kRole; }
   const host::TypeInfo& Type() const final {
     static const host::TypeInfo type = this->DescribeInterface();
     return type;

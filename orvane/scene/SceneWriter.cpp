@@ -61,11 +61,16 @@ void SceneWriter::Visit(const Node& node) {
     }
   }
   use.open = true;
+  if (++m_level > kMostLevels) {
+    Raise(ErrorNumber::SceneTooDeep,
+          "More than " + std::to_string(kMostLevels) + " nodes hang one below the other");
+  }
   for (const auto& member : node.Interface()) {
     if (member.field == nullptr) continue;
     m_expectedSize += member.field->ExpectedSize();
     member.field->VisitNodes([this](const Node& child) { Visit(child); });
   }
+  --m_level;
   m_uses.at(&node).open = false;
 }
 

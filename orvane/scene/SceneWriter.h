@@ -29,9 +29,12 @@ struct TextLayout {
 ///
 /// A node that hangs in two places is written once, with a DEF, and then as USE; where it has no
 /// name it gets its type's with a number. Raises, before a character is handed out: SceneCycle,
-/// DuplicateDefName, RouteOutsideScene.
+/// DuplicateDefName, RouteOutsideScene, SceneTooDeep.
 class ORVANE_API SceneWriter {
  public:
+  /// The most nodes that may hang one below the other; readers have limits of their own.
+  static constexpr int kMostLevels = 1000;
+
   /// The text of the scene below `root`.
   static std::string Write(const Node& root, const RouteList& routes, TextLayout layout);
 
@@ -96,6 +99,7 @@ class ORVANE_API SceneWriter {
 
   TextLayout m_layout;
   int m_depth = 0;
+  int m_level = 0;  ///< Of the node being visited; the root's is 1.
   // Text is made in a block that stays in the processor's cache, and appended to a text that has
   // room for what the scene is expected to take: growing a text of tens of megabytes would cost as
   // much as formatting the numbers in it.

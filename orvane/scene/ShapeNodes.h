@@ -17,8 +17,8 @@ class ORVANE_API Shape final : public NodeOf<Shape> {
  public:
   static constexpr const char* kClassName = "Shape";
 
-  SFNode appearance{*this, "appearance"};
-  SFNode geometry{*this, "geometry"};
+  SFNode appearance{*this, "appearance", NodeRole::Appearance};
+  SFNode geometry{*this, "geometry", NodeRole::Geometry};
 };
 
 ///     Appearance {
@@ -29,10 +29,11 @@ class ORVANE_API Shape final : public NodeOf<Shape> {
 class ORVANE_API Appearance final : public NodeOf<Appearance> {
  public:
   static constexpr const char* kClassName = "Appearance";
+  static constexpr NodeRole kRole = NodeRole::Appearance;
 
-  SFNode material{*this, "material"};
-  SFNode texture{*this, "texture"};
-  SFNode textureTransform{*this, "textureTransform"};
+  SFNode material{*this, "material", NodeRole::Material};
+  SFNode texture{*this, "texture", NodeRole::Texture};
+  SFNode textureTransform{*this, "textureTransform", NodeRole::TextureTransform};
 };
 
 ///     Material {
@@ -46,6 +47,7 @@ class ORVANE_API Appearance final : public NodeOf<Appearance> {
 class ORVANE_API Material final : public NodeOf<Material> {
  public:
   static constexpr const char* kClassName = "Material";
+  static constexpr NodeRole kRole = NodeRole::Material;
 
   SFFloat ambientIntensity{*this, "ambientIntensity", 0.2F, kUnit};
   SFColor diffuseColor{*this, "diffuseColor", {0.8F, 0.8F, 0.8F}};
@@ -66,9 +68,10 @@ class ORVANE_API Material final : public NodeOf<Material> {
 class ORVANE_API Text final : public NodeOf<Text> {
  public:
   static constexpr const char* kClassName = "Text";
+  static constexpr NodeRole kRole = NodeRole::Geometry;
 
   MFString string{*this, "string"};
-  SFNode fontStyle{*this, "fontStyle"};
+  SFNode fontStyle{*this, "fontStyle", NodeRole::FontStyle};
   MFFloat length{*this, "length", {}, kNotNegative};
   SFFloat maxExtent{*this, "maxExtent", 0, kNotNegative};
 };
@@ -87,6 +90,7 @@ class ORVANE_API Text final : public NodeOf<Text> {
 class ORVANE_API FontStyle final : public NodeOf<FontStyle> {
  public:
   static constexpr const char* kClassName = "FontStyle";
+  static constexpr NodeRole kRole = NodeRole::FontStyle;
 
   MFString family{*this, "family", {"SERIF"}, AccessKind::Field};
   SFBool horizontal{*this, "horizontal", true, AccessKind::Field};
@@ -110,6 +114,7 @@ class ORVANE_API FontStyle final : public NodeOf<FontStyle> {
 class ORVANE_API Cone final : public NodeOf<Cone> {
  public:
   static constexpr const char* kClassName = "Cone";
+  static constexpr NodeRole kRole = NodeRole::Geometry;
 
   SFFloat bottomRadius{*this, "bottomRadius", 1, AccessKind::Field, kPositive};
   SFFloat height{*this, "height", 2, AccessKind::Field, kPositive};
@@ -129,6 +134,7 @@ class ORVANE_API Cone final : public NodeOf<Cone> {
 class ORVANE_API Cylinder final : public NodeOf<Cylinder> {
  public:
   static constexpr const char* kClassName = "Cylinder";
+  static constexpr NodeRole kRole = NodeRole::Geometry;
 
   SFBool bottom{*this, "bottom", true, AccessKind::Field};
   SFFloat height{*this, "height", 2, AccessKind::Field, kPositive};

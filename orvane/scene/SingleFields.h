@@ -212,15 +212,20 @@ class ORVANE_API SFNode final : public SingleField<SFNode, std::shared_ptr<Node>
   const host::TypeInfo& Type() const override;
 
   SFNode() = default;
-  SFNode(Node& owner, const char* name, AccessKind access = AccessKind::ExposedField)
-      : SingleField(owner, name, nullptr, access) {}
+  SFNode(Node& owner, const char* name, NodeRole role)
+      : SingleField(owner, name, nullptr, AccessKind::ExposedField), m_role(role) {}
+  ~SFNode() override { LetGo(m_value); }
 
   std::shared_ptr<Node> Value() const { return m_value; }
-  /// Replaces the previous node; nullptr is VRML97's NULL.
-  void Value(std::shared_ptr<Node> node) { m_value = std::move(node); }
+  /// Replaces the previous node; nullptr is VRML97's NULL. TypeMismatch for a node of a type that
+  /// VRML97 does not let the field hold.
+  void Value(std::shared_ptr<Node> node) { m_value = Checked(node, m_role); }
 
   void Write(SceneWriter& out) const override;
   void VisitNodes(const std::function<void(const Node&)>& visit) const override;
+
+ private:
+  NodeRole m_role = NodeRole::Any;
 };
 
 }  // namespace orvane::scene

@@ -38,9 +38,13 @@ bool IsUtf8(std::string_view text) {
   return true;
 }
 
+std::size_t CharacterLength(std::string_view text) {
+  return std::max<std::size_t>(1, Utf8Length(text));
+}
+
 std::size_t CharacterCount(std::string_view text) {
   std::size_t count = 0;
-  for (; !text.empty(); ++count) text.remove_prefix(std::max<std::size_t>(1, Utf8Length(text)));
+  for (; !text.empty(); ++count) text.remove_prefix(CharacterLength(text));
   return count;
 }
 

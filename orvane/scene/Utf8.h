@@ -15,6 +15,9 @@ ORVANE_API std::size_t Utf8Length(std::string_view text);
 /// True when all of `text` is well formed.
 ORVANE_API bool IsUtf8(std::string_view text);
 
+/// Length in bytes of the character at the start of `text` (not empty); a malformed byte is one.
+ORVANE_API std::size_t CharacterLength(std::string_view text);
+
 /// Number of characters; a malformed byte counts as one.
 ORVANE_API std::size_t CharacterCount(std::string_view text);
 

@@ -17,9 +17,13 @@ constexpr const char* kCategories =
 
 /// A kind whose chart `makeChart(Table, options)` makes.
 template <class F>
-ChartKind OfSeries(const std::string& name, const std::string& graph, const std::string& help, OptionNames names,
-                   F makeChart) {
-  return {name, graph, help, kCategories, OptionsNamed(names),
+ChartKind OfSeries(const std::string& name, const std::string& graph, const std::string& help,
+                   OptionNames names, F makeChart) {
+  return {name,
+          graph,
+          help,
+          kCategories,
+          OptionsNamed(names),
           [makeChart](const Source& source, const ChartOptions& options) -> TableChart {
             return {makeChart(ReadTable(source, options.missing), options), {}};
           }};
@@ -27,7 +31,8 @@ ChartKind OfSeries(const std::string& name, const std::string& graph, const std:
 
 /// A kind whose chart `makeChart(Table, surface, options)` makes.
 template <class F>
-ChartKind OfSeriesAndSurface(const std::string& name, const std::string& graph, const std::string& help, F makeChart) {
+ChartKind OfSeriesAndSurface(const std::string& name, const std::string& graph,
+                             const std::string& help, F makeChart) {
   return OfSeries(
       name, graph, help,
       {"surface", "title", "background", "missing", "size", "style", "no-toggles", "no-popups"},
@@ -79,9 +84,10 @@ std::vector<ChartKind> AllKinds() {
       {"density", "DensityGraph", "Hills where points lie thickly, one for each group",
        "x and z of the points and, in a third column, their groups",
        OptionsNamed({"title", "background", "size", "sigma", "no-toggles"}), MakeDensity},
-      OfSeriesAndSurface("column-surface", "SCComboGraph", "Columns in rows, and a surface over them",
-                         MakeColumnSurfaceChart),
-      OfSeriesAndSurface("ribbon-surface", "RCComboGraph", "Ribbons, one behind the other, and a surface over them",
+      OfSeriesAndSurface("column-surface", "SCComboGraph",
+                         "Columns in rows, and a surface over them", MakeColumnSurfaceChart),
+      OfSeriesAndSurface("ribbon-surface", "RCComboGraph",
+                         "Ribbons, one behind the other, and a surface over them",
                          MakeRibbonSurfaceChart),
   };
 }

@@ -31,8 +31,8 @@ struct Option {
   std::string excludes;     ///< The name of the option that does not go with it, if any.
   bool isRequired = false;  ///< The chart cannot be made without it.
 
-  /// Takes `text` over, "" for a switch. Raises OptionError that says what is allowed, and FileError
-  /// for a file that cannot be read; `options` is then as before.
+  /// Takes `text` over, "" for a switch. Raises OptionError that says what is allowed, and
+  /// FileError for a file that cannot be read; `options` is then as before.
   std::function<void(ChartOptions& options, const std::string& text)> set;
 };
 

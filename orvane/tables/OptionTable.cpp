@@ -61,7 +61,11 @@ Option Choice(const std::string& option, const std::string& help, T ChartOptions
 /// A switch that puts `value` into `member`.
 Option Switch(const std::string& option, const std::string& help, bool ChartOptions::*member,
               bool value, const std::string& excludes = "") {
-  return {option, "", help, excludes, false,
+  return {option,
+          "",
+          help,
+          excludes,
+          false,
           [member, value](ChartOptions& options, const std::string&) { options.*member = value; }};
 }
 
@@ -77,9 +81,8 @@ std::vector<Option> AllOptions() {
        false, [](ChartOptions& options, const std::string& text) { options.size = SizeIn(text); }},
       Switch("no-toggles", "Leave out the legend's check boxes", &ChartOptions::useToggles, false),
       Switch("no-popups", "Leave out the texts shown at a value", &ChartOptions::usePopups, false),
-      Choice<ShapeStyle>(
-          "style", "Edges of the shapes; left out, outlined", &ChartOptions::style,
-          {{"outlined", ShapeStyle::Outlined}, {"rounded", ShapeStyle::Rounded}}),
+      Choice<ShapeStyle>("style", "Edges of the shapes; left out, outlined", &ChartOptions::style,
+                         {{"outlined", ShapeStyle::Outlined}, {"rounded", ShapeStyle::Rounded}}),
       Switch("grouped", "Series side by side in each cell", &ChartOptions::isGrouped, true),
       Switch("stacked-rows", "A row for each series, one behind the other: the default",
              &ChartOptions::isGrouped, false, "grouped"),

@@ -10,7 +10,8 @@ takes. Make a chart, set its properties, export it:
     chart.ExportToFile("chart.wrl")
     orvane.WriteProtos(".")
 
-What is rejected raises AutomationError and changes nothing.
+What is rejected raises AutomationError and changes nothing; only Min and Max of a value axis keep
+what they were given when its labels cannot be made anew.
 
 From a table to a chart it is one call, for every kind of chart:
 

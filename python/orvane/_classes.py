@@ -91,6 +91,7 @@ def _replace(entries, values):
     if hasattr(type(entries), "Items"):
         entries.Items = values
         return
+    values = list(values)  # First, since it may be made of the entries themselves.
     before = list(entries)
     entries.Clear()
     try:

@@ -83,9 +83,15 @@ TEST(GridInfo, KeepsItsExtentWhenTheCellCountChanges) {
   EXPECT_EQ(grid.XAxisCellCount(), 32766);
   EXPECT_NEAR(grid.Width(), 10, 1e-5);
   EXPECT_EQ(heard, (std::vector<int>{4, 32766}));
+  node->zLineCount.Value(1);
+  grid.ZAxisCellCount(3);
+  EXPECT_EQ(grid.ZAxisCellCount(), 3) << "a grid without extent gets cells";
   const auto full = grid.XCellCountChanged.Connect([](int) { throw std::bad_alloc(); });
   EXPECT_THROW(grid.XAxisCellCount(5), std::bad_alloc);
-  EXPECT_EQ(grid.XAxisCellCount(), 32766) << "what a handler cannot follow is taken back";
+  EXPECT_EQ(grid.XAxisCellCount(), 5) << "a handler hears of what has happened";
+  const auto refusal = grid.XCellCountFollowed.Connect([](int) { throw std::bad_alloc(); });
+  EXPECT_THROW(grid.XAxisCellCount(4), std::bad_alloc);
+  EXPECT_EQ(grid.XAxisCellCount(), 5) << "a chart that cannot follow rejects the let";
 }
 
 TEST(DrillDownInfo, LaysItsConesAlongX) {

@@ -61,7 +61,9 @@ TEST(SeriesToggleInfo, StandsItsBoxesFirstOnTop) {
   };
   for (int i = 0; i < 3; ++i) toggles.AddCheckBox();
   EXPECT_EQ(heights(), (std::vector<float>{3, 1.5F, 0}));
-  toggles.Height(2);
+  toggles.Resize(0.3F, static_cast<float>(0.3F * 0.35));
+  EXPECT_EQ(heights(), (std::vector<float>{2 * 0.405000031F, 0.405000031F, 0}));
+  toggles.Resize(2, 0.5F);
   EXPECT_EQ(heights(), (std::vector<float>{5, 2.5F, 0}));
   EXPECT_EQ(std::dynamic_pointer_cast<scene::CheckBox>(toggles.Get1CheckBox(1))->boxSize.Value(),
             2);

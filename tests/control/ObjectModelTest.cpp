@@ -71,8 +71,9 @@ struct Limits {
 
 Limits LimitsOf(const std::string& range, double step) {
   std::smatch part;
-  if (range == "> 0") return {{step, 5}, {0, -step}};
-  if (!std::regex_match(range, part, std::regex(R"((>= )?(\d+)(\.\.(\d+))?)"))) return {};
+  if (range.starts_with("> 0")) return {{step, 5}, {0, -step}};
+  if (!std::regex_match(range, part, std::regex(R"((>= )?(\d+)(\.\.(\d+))?(, finite)?)")))
+    return {};
   const double low = std::stod(part[2]);
   if (!part[4].matched) return {{low, low + 1}, {low - step}};
   const double high = std::stod(part[4]);
@@ -160,6 +161,39 @@ TEST(ObjectModel, HoldsEveryStatedRangeAndChangesNothingBeyondIt) {
       {"Transparency must be in the range [0..1]", {"GridInfo.Transparency"}},
   };
   EXPECT_EQ(complaints, expected);
+}
+
+std::string Written(host::Object& chart) {
+  return *chart.Call("ExportToString", {true, true}).If<std::string>();
+}
+
+TEST(ObjectModel, LeavesNothingOfWhatIsSwitchedOnAndOff) {
+  for (const char* name : {"AreaGraph", "ColumnGraph", "RibbonGraph", "PieGraph", "ScatterGraph",
+                           "SurfaceGraph", "DensityGraph", "SCComboGraph", "RCComboGraph"}) {
+    const auto chart = CreateChart(name);
+    std::vector<std::shared_ptr<host::Object>> objects = {chart};
+    for (const auto& member : chart->Type().Members()) {
+      if (member.name.ends_with("Count")) chart->Let(member.name, 2);
+      if (member.name == "GridProps") chart->Get("GridProps").AsObject()->Let("ZAxisCellCount", 2);
+    }
+    for (const auto& member : chart->Type().Members()) {
+      if (member.name.starts_with("Export") || !member.get) continue;
+      const Value value = member.isMethod ? chart->Call(member.name, {1}) : chart->Get(member.name);
+      if (const auto* part = value.If<std::shared_ptr<host::Object>>()) objects.push_back(*part);
+    }
+    const std::string before = Written(*chart);
+    for (const auto& object : objects) {
+      for (const auto& member : object->Type().Members()) {
+        // The names that a spin axis gives to nodes stay.
+        if (member.type.name != "Boolean" || !member.let || member.name == "UseSpinAxis") continue;
+        const bool isOn = *object->Get(member.name).If<bool>();
+        object->Let(member.name, !isOn);
+        (void)Written(*chart);
+        object->Let(member.name, isOn);
+        EXPECT_EQ(Written(*chart), before) << name << ": " << member.name;
+      }
+    }
+  }
 }
 
 TEST(ObjectModel, MakesWhatHostsMakeThemselves) {

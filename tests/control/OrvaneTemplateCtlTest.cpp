@@ -54,6 +54,8 @@ TEST_F(ControlTest, StartsFromTheUsersSettings) {
     const auto saved = m_host.settings->saved;
     const auto control = std::make_shared<OrvaneTemplateCtl>();
     EXPECT_EQ(OrvaneModule::RelativeProtoPath(), initialised) << what;
+    control->CreateFactory();
+    EXPECT_EQ(control->RelativeProtoPath(), initialised.empty() ? "" : placed) << what;
     host::Container().PlaceNew(control);
     EXPECT_EQ(control->RelativeProtoPath(), placed) << what;
     EXPECT_EQ(m_host.settings->saved, saved) << "the control only reads them";

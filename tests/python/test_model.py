@@ -123,6 +123,23 @@ class Members(unittest.TestCase):
             axis.Labels = (str(1 // (2 - n)) for n in range(9))
         self.assertEqual(list(axis.Labels), ["a", "b"])
 
+    def test_lists_take_what_reads_or_changes_them_meanwhile(self):
+        labels, group = self.chart.XAxisProps.Labels, orvane.Group()
+        self.chart.XAxisProps.Labels = ["a", "b"]
+        self.chart.XAxisProps.Labels = (text.upper() for text in labels)
+        self.assertEqual(list(labels), ["A", "B"])
+        group.children = [orvane.Shape(), orvane.Group()]
+        group.children = (node for node in group.children if isinstance(node, orvane.Shape))
+        self.assertEqual(len(group.children), 1)
+
+        class Shrinking:
+            def __float__(self):
+                numbers.clear()
+                return 1.0
+        numbers = [Shrinking(), *range(2000, 5000)]
+        self.series.Height = numbers
+        self.assertEqual(list(self.series.Height), [1, *range(2000, 5000)])
+
     def test_unknown_names_are_missing_attributes(self):
         self.assertEqual(self.chart.getseries(1), self.series)
         self.assertFalse(hasattr(self.chart, "Breadth"))

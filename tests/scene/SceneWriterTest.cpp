@@ -115,6 +115,16 @@ TEST(SceneWriter, WritesFloatsThatReadBackTheSame) {
 }
 
 TEST(SceneWriter, RefusesScenesThatCannotBeWritten) {
+  auto top = Create<Group>();
+  for (int i = 1; i < 50000; ++i) {
+    const auto above = Create<Group>();
+    above->children.Append(std::move(top));
+    top = above;
+  }
+  EXPECT_EQ(ErrorOf([&] { Written(*top); }),
+            (Raised{ErrorNumber::SceneTooDeep, "More than 1000 nodes hang one below the other"}));
+  top.reset();
+
   const auto root = Create<Transform>();
   const auto inner = Create<Group>();
   root->children.Append(inner);

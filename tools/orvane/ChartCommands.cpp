@@ -4,11 +4,14 @@
 
 #include "orvane/tables/ChartKinds.h"
 
+#include <filesystem>
 #include <memory>
 #include <string>
 
 namespace orvane::tool {
 namespace {
+
+namespace fs = std::filesystem;
 
 /// What a command that charts a table is given.
 struct ChartRequest {
@@ -45,7 +48,9 @@ void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostre
   for (const auto& option : kind.options) AddOption(command, option, request->options);
   AddOutputOptions(command, request->output);
   command.callback([request, &kind, &out, &err] {
-    WriteWorld(request->output, out, [&] {
+    const auto& surface = request->options.surface;
+    const auto inputs = {fs::path(request->table), fs::path(surface ? surface->Name() : "")};
+    WriteWorld(request->output, inputs, out, [&] {
       const auto made = kind.make(tables::Source::Read(request->table), request->options);
       for (const auto& remark : made.remarks) err << remark << '\n';
       return made.chart->ExportToString(true, true);

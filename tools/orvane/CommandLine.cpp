@@ -8,9 +8,11 @@
 #include "WorldOutput.h"
 
 #include "orvane/automation/AutomationError.h"
+#include "orvane/scene/Utf8.h"
 #include "orvane/tables/read/Source.h"
 
 #include <memory>
+#include <new>
 #include <string>
 #include <system_error>
 
@@ -33,7 +35,7 @@ void AddBuildCommand(CLI::App& app, std::ostream& out) {
       ->type_name("MODEL.json");
   AddOutputOptions(command, *output);
   command.callback([model, output, &out] {
-    WriteWorld(*output, out, [&] { return BuildWorld(tables::Source::Read(*model)); });
+    WriteWorld(*output, {*model}, out, [&] { return BuildWorld(tables::Source::Read(*model)); });
   });
 }
 
@@ -79,7 +81,7 @@ void AddTypesCommand(CLI::App& app, std::ostream& out) {
 
 }  // namespace
 
-int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
+int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::ostream& err) try {
   CLI::App app("Three-dimensional business charts as VRML97 worlds.", "orvane");
   app.require_subcommand(1);
   AddChartCommands(app, out, err);
@@ -89,6 +91,11 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   AddTypesCommand(app, out);
 
   try {
+    for (int i = 1; i < argc; ++i) {
+      if (!scene::IsUtf8(argv[i])) {
+        throw CLI::ValidationError("argument " + std::to_string(i) + " is not UTF-8");
+      }
+    }
     app.parse(argc, argv);
     if (!out.flush()) throw tables::FileError("standard output: cannot be written");
     return kDone;
@@ -101,6 +108,9 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   } catch (const std::system_error& error) {
     err << "orvane: " << error.what() << "\n";
   }
+  return kBadData;
+} catch (const std::bad_alloc&) {
+  err << "orvane: out of memory\n";
   return kBadData;
 }
 

@@ -14,7 +14,9 @@ struct OutputFile {
 
 /// Writes every file to a temporary neighbour first and moves them into place once all are written,
 /// so that a failure leaves the old files whole. Links are followed; what is no regular file (a
-/// pipe, a terminal) is written to as it is. Raises FileError.
-void WriteFiles(const std::vector<OutputFile>& files);
+/// pipe, a terminal) is written to as it is. Raises FileError, also when two of the files are one,
+/// or one is among the `inputs`, which stay as they are.
+void WriteFiles(const std::vector<OutputFile>& files,
+                const std::vector<std::filesystem::path>& inputs = {});
 
 }  // namespace orvane::tool

@@ -7,7 +7,6 @@
 #include "orvane/tables/read/Source.h"
 
 #include <system_error>
-#include <vector>
 
 namespace orvane::tool {
 namespace {
@@ -37,7 +36,7 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
       ->check(CLI::Validator(endsInSeparator, ""));
 }
 
-void WriteWorld(const WorldOutput& output, std::ostream& out,
+void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, std::ostream& out,
                 const std::function<std::string()>& makeWorld) {
   const fs::path path = output.path;
   std::optional<fs::path> folder;
@@ -50,7 +49,7 @@ void WriteWorld(const WorldOutput& output, std::ostream& out,
   }
   auto files = isBesideProtos ? ProtosIn(path.parent_path()) : std::vector<OutputFile>();
   files.push_back({path, world});
-  WriteFiles(files);
+  WriteFiles(files, inputs);
 }
 
 void WriteProtos(const fs::path& folder) {

@@ -6,6 +6,7 @@
 #include <iosfwd>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include <CLI/CLI.hpp>
 
@@ -20,10 +21,10 @@ struct WorldOutput {
 /// Adds the options that fill `output`, which must outlive `command`.
 void AddOutputOptions(CLI::App& command, WorldOutput& output);
 
-/// Makes a world with `makeWorld` and writes it, to `out` for "-". No file is touched before all is
-/// made.
-void WriteWorld(const WorldOutput& output, std::ostream& out,
-                const std::function<std::string()>& makeWorld);
+/// Makes a world of the files `inputs` with `makeWorld` and writes it, to `out` for "-". No file is
+/// touched before all is made, and the inputs never.
+void WriteWorld(const WorldOutput& output, const std::vector<std::filesystem::path>& inputs,
+                std::ostream& out, const std::function<std::string()>& makeWorld);
 
 /// Writes the three PROTO files to `folder`, which is made when missing. Raises FileError.
 void WriteProtos(const std::filesystem::path& folder);

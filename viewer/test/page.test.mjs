@@ -11,8 +11,11 @@ import {
 } from './worlds.mjs';
 
 serve({
-  files: Object.fromEntries(
-    readdirSync(new URL('worlds', import.meta.url)).map((name) => [name, byHand(name)])),
+  files: {
+    ...Object.fromEntries(
+      readdirSync(new URL('worlds', import.meta.url)).map((name) => [name, byHand(name)])),
+    '100%.wrl': byHand('two-views.wrl'),
+  },
 });
 
 const heading = ({ page }) => page.getByRole('heading', { level: 1 }).textContent();
@@ -79,15 +82,21 @@ test('switches the viewpoint by pointer and by keyboard', async () => {
   }
 });
 
-test('says that a link inside a world is dead, and keeps the world', async () => {
-  await open('links.wrl');
-  await view.click(await view.at('WALL'));
-  await view.page.getByRole('alert').waitFor();
-  assert.match(await view.trouble(), /link leads nowhere/);
-  await assertDrawn();
-  assert.deepEqual(await view.viewpoints(), ['Front']);
-  view.complaints.length = 0;
-});
+for (const [target, box, words] of [
+  ['nowhere', 'WALL', /link leads nowhere/],
+  ['a world of another site', 'ELSEWHERE', /another site\s+.*127\.0\.0\.2\/two-views\.wrl/],
+  ['a page of another site', 'PAGE', /another site\s+.*127\.0\.0\.2\/page\.html/],
+]) {
+  test(`says that a link inside a world leads to ${target}, and keeps the world`, async () => {
+    await open('links.wrl');
+    await view.click(await view.at(box));
+    await view.page.getByRole('alert').waitFor();
+    assert.match(await view.trouble(), words);
+    await assertDrawn();
+    assert.deepEqual(await view.viewpoints(), ['Front']);
+    view.complaints.length = 0;
+  });
+}
 
 for (const [name, world, words] of [
   ['a missing file', 'nowhere.wrl', /nowhere\.wrl was not found/],
@@ -129,7 +138,15 @@ test('works without a list of worlds', async (context) => {
   assert.equal(await own.page.locator('nav').isVisible(), false);
 });
 
+test('shows a world whose name has a percent sign in it', async () => {
+  await open('100%.wrl');
+  assert.equal(await heading(view), '100%.wrl');
+  await assertDrawn();
+});
+
 for (const [lack, prepare, words] of [
+  ['a list of worlds that can be read', (page) => page.route('**/worlds.json', (route) => (
+    route.fulfill({ json: [{ file: 'two-views.wrl' }, { title: 'Nothing' }] }))), /array of objects/],
   ['X_ITE', (page) => page.route('**/x_ite.min.mjs', (route) => route.abort()), /not complete/],
   ['WebGL', (page) => page.addInitScript(() => {
     HTMLCanvasElement.prototype.getContext = () => null;

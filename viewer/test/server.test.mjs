@@ -1,7 +1,7 @@
 // The static server: what it sends, what it refuses, what it records.
 
 import assert from 'node:assert/strict';
-import { mkdir, mkdtemp, rm, writeFile } from 'node:fs/promises';
+import { mkdir, mkdtemp, rm, symlink, writeFile } from 'node:fs/promises';
 import { request } from 'node:http';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
@@ -21,6 +21,9 @@ before(async () => {
   await writeFile(join(folder, 'site-secret/key.txt'), 'secret');
   await writeFile(join(folder, 'secret.txt'), 'secret');
   await writeFile(join(folder, 'library/code.mjs'), 'export {};');
+  await symlink('../secret.txt', join(folder, 'site/link.txt'));
+  await symlink('../site-secret', join(folder, 'site/linked'));
+  await symlink('world.wrl', join(folder, 'site/same.wrl'));
   server = await start({
     root: join(folder, 'site'),
     mounts: { '/library/': join(folder, 'library'), '/page.html': join(folder, 'secret.txt') },
@@ -33,9 +36,9 @@ after(async () => {
 });
 
 // Sends the path as it stands: fetch() would tidy up "..".
-function ask(path, method = 'GET') {
+function ask(path, method = 'GET', host = new URL(server.url).host) {
   return new Promise((done, failed) => {
-    const asked = request(server.url, { path, method }, (response) => {
+    const asked = request(server.url, { path, method, headers: { host } }, (response) => {
       let body = '';
       response.on('data', (part) => { body += part; });
       const { statusCode: status, headers } = response;
@@ -63,13 +66,19 @@ const cases = [
   ['a folder without an index', '/', 404],
   ['a malformed escape', '/%zz', 400],
   ['a NUL in a name', '/world%00.wrl', 400],
+  ['two slashes', '//', 400],
+  ['half an address', 'http://[', 400],
+  ['another site by its whole address', 'http://example.com/world.wrl', 421],
+  ['a link that stays', '/same.wrl', 200, 'model/vrml', '#VRML V2.0 utf8\n'],
+  ['a link out of the root', '/link.txt', 403],
+  ['a file behind a link out of the root', '/linked/key.txt', 403],
 ];
 
 for (const [name, path, status, header, body] of cases) {
   test(`answers ${status} to ${name}, and records it`, async () => {
     const answer = await ask(path);
     assert.equal(answer.status, status);
-    const { pathname } = new URL(path, server.url);
+    const pathname = URL.canParse(path, server.url) ? new URL(path, server.url).pathname : path;
     assert.deepEqual(server.requests.at(-1), { path: pathname, status });
     assert.equal(answer.headers[status === 301 ? 'location' : 'content-type'], header ?? TEXT);
     if (status === 200) assert.equal(answer.body, body);
@@ -81,6 +90,14 @@ test('answers HEAD without a body, and nothing but GET and HEAD', async () => {
   const head = await ask('/world.wrl', 'HEAD');
   assert.deepEqual([head.status, head.headers['content-length'], head.body], [200, '16', '']);
   assert.equal((await ask('/world.wrl', 'POST')).status, 405);
+});
+
+test('answers to its own names only', async () => {
+  const { port } = new URL(server.url);
+  for (const [host, status] of [[`localhost:${port}`, 200], [`rebound.example:${port}`, 421],
+    [`127.0.0.1:${port - 1}`, 421], ['a b', 400]]) {
+    assert.equal((await ask('/world.wrl', 'GET', host)).status, status, host);
+  }
 });
 
 test('listens on the loopback address only', () => {

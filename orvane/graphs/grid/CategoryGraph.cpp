@@ -54,15 +54,15 @@ void CategoryGraph::WireDrillDown(DrillDownInfo& cones, std::int16_t count, floa
   Routes().AddRoute(collection, "mouseClickedIndex", router, "set_linkIndex");
 }
 
-void CategoryGraph::ResizeRows(SeriesCollection& rows, std::int16_t count,
-                               const std::function<std::shared_ptr<GridSeries>()>& make) const {
+SeriesCollection::Items CategoryGraph::ResizedRows(
+    const SeriesCollection& rows, std::int16_t count,
+    const std::function<std::shared_ptr<GridSeries>()>& make) const {
   const float depth = Single(CellDepth(Grid()) / 2.0);
-  while (rows.Count() > count) rows.RemoveSeries(rows.Count());
-  while (rows.Count() < count) {
-    const auto series = make();
+  return rows.Resized(count, [&] {
+    auto series = make();
     series->Depth(depth);
-    rows.AddSeries(series);
-  }
+    return series;
+  });
 }
 
 void CategoryGraph::RequireSeries(std::int16_t index, const SeriesCollection& rows) {

@@ -30,10 +30,11 @@ class ORVANE_API CategoryGraph : public GridGraph {
   void AlignZAxis() override;
   void BuildNavigation() override;
 
-  /// Brings the series of `rows` to one a Z row: adds new ones of half a cell's depth, made by
-  /// `make`, or removes trailing ones.
-  void ResizeRows(SeriesCollection& rows, std::int16_t count,
-                  const std::function<std::shared_ptr<GridSeries>()>& make) const;
+  /// The series of `rows` for `count` Z rows: with new ones of half a cell's depth, made by `make`,
+  /// or without trailing ones.
+  SeriesCollection::Items ResizedRows(
+      const SeriesCollection& rows, std::int16_t count,
+      const std::function<std::shared_ptr<GridSeries>()>& make) const;
 
   /// Raises the component error for a series index outside 1..the number of series in `rows`.
   static void RequireSeries(std::int16_t index, const SeriesCollection& rows);

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace orvane {
 
@@ -24,8 +26,8 @@ const host::TypeInfo& ColumnGraph::Type() const {
 }
 
 ColumnGraph::ColumnGraph() {
-  m_zCellCountChanged = Grid().ZCellCountChanged.Connect(
-      [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
+  m_zCellCountFollowed = Grid().ZCellCountFollowed.Connect(
+      [this](std::int16_t newCount) { m_gridInfo_ZCellCountFollowed(newCount); });
   ColumnsPerCell(1);
 }
 
@@ -45,20 +47,24 @@ std::shared_ptr<ColumnSeriesInfo> ColumnGraph::GetSeries(std::int16_t index,
 
 void ColumnGraph::ColumnsPerCell(std::int16_t count) {
   host::Require(count >= 1, "The number of columns per cell must be greater than or equal to 1");
-  while (m_slots->Count() > count) m_slots->RemoveSeries(m_slots->Count());
-  while (m_slots->Count() < count) {
-    const auto slot = std::make_shared<SeriesCollection>();
-    ResizeSlot(*slot, Grid().ZAxisCellCount());
-    m_slots->AddSeries(slot);
-  }
+  m_slots->Resize(count, [this] {
+    auto slot = std::make_shared<SeriesCollection>();
+    slot->Replace(ResizedSlot(*slot, Grid().ZAxisCellCount()));
+    return slot;
+  });
 }
 
-void ColumnGraph::ResizeSlot(SeriesCollection& slot, std::int16_t rows) const {
-  ResizeRows(slot, rows, [] { return std::make_shared<ColumnSeriesInfo>(); });
+SeriesCollection::Items ColumnGraph::ResizedSlot(const SeriesCollection& slot,
+                                                 std::int16_t rows) const {
+  return ResizedRows(slot, rows, [] { return std::make_shared<ColumnSeriesInfo>(); });
 }
 
-void ColumnGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
-  for (const std::int16_t i : Indexes(m_slots->Count())) ResizeSlot(*Slot(i), newCount);
+void ColumnGraph::m_gridInfo_ZCellCountFollowed(std::int16_t newCount) {
+  const auto slots = Indexes(m_slots->Count());
+  std::vector<SeriesCollection::Items> resized;
+  for (const std::int16_t i : slots) resized.push_back(ResizedSlot(*Slot(i), newCount));
+  auto next = resized.begin();
+  for (const std::int16_t i : slots) Slot(i)->Replace(std::move(*next++));
 }
 
 float ColumnGraph::LargestDepth() const {

@@ -42,13 +42,13 @@ class ORVANE_API ColumnGraph : public CategoryGraph {
 
  private:
   std::shared_ptr<SeriesCollection> Slot(std::int16_t index) const;
-  void ResizeSlot(SeriesCollection& slot, std::int16_t rows) const;
-  void m_gridInfo_ZCellCountChanged(std::int16_t newCount);
+  SeriesCollection::Items ResizedSlot(const SeriesCollection& slot, std::int16_t rows) const;
+  void m_gridInfo_ZCellCountFollowed(std::int16_t newCount);
   float WidthOfSlots() const;
 
   std::shared_ptr<SeriesCollection> m_slots = std::make_shared<SeriesCollection>();
   ColumnCellSpacing m_spacingStyle = ColumnCellSpacing::EVENLY_SPACED;
-  host::Subscription m_zCellCountChanged;
+  host::Subscription m_zCellCountFollowed;
 };
 
 }  // namespace orvane

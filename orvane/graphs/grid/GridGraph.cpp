@@ -28,6 +28,7 @@ void GridGraph::Arrange() {
   LegendWiring legend(*m_legend, Routes());
   Contents().Clear();
   BuildSeries(legend);
+  legend.Finish();
   BuildNavigation();
 }
 

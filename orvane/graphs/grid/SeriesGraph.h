@@ -23,8 +23,9 @@ class SeriesGraph : public CategoryGraph {
 
  protected:
   SeriesGraph() {
-    m_zCellCountChanged = Grid().ZCellCountChanged.Connect(
-        [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
+    m_zCellCountFollowed = Grid().ZCellCountFollowed.Connect([this](std::int16_t count) {
+      m_series->Replace(ResizedRows(*m_series, count, [] { return std::make_shared<S>(); }));
+    });
   }
 
   void BuildSeries(LegendWiring& legend) override {
@@ -38,12 +39,8 @@ class SeriesGraph : public CategoryGraph {
   float LargestDepth() const { return LargestDepthIn(*m_series); }
 
  private:
-  void m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
-    ResizeRows(*m_series, newCount, [] { return std::make_shared<S>(); });
-  }
-
   std::shared_ptr<SeriesCollection> m_series = std::make_shared<SeriesCollection>();
-  host::Subscription m_zCellCountChanged;
+  host::Subscription m_zCellCountFollowed;
 };
 
 }  // namespace orvane

@@ -82,14 +82,13 @@ void PieGraph::BevelRadius(float radius) {
 }
 
 void PieGraph::SliceCount(std::int16_t count) {
-  while (SliceCount() > count) m_slices->RemoveSeries(host::Int16(count + 1));
-  while (SliceCount() < count) {
-    const auto slice = std::make_shared<PieSliceInfo>();
+  m_slices->Resize(count, [this] {
+    auto slice = std::make_shared<PieSliceInfo>();
     slice->radius(m_radius);
     slice->InnerRadius(m_innerRadius);
     slice->BevelRadius(m_bevelRadius);
-    m_slices->AddSeries(slice);
-  }
+    return slice;
+  });
 }
 
 void PieGraph::UseDrillUp(bool use) {
@@ -104,6 +103,7 @@ void PieGraph::Arrange() {
   AlignLegend();
   BuildSlices();
   if (UseSpinAxis()) WireSpinAxis();
+  m_drillUpHolder->translation.Y(0);
   if (m_usesDrillUp) AlignDrillUp();
 }
 
@@ -133,6 +133,7 @@ void PieGraph::BuildSlices() {
     m_pie->children.Append(slice.Root());
     WireSlice(slice, i, legend);
   }
+  legend.Finish();
 }
 
 void PieGraph::WireSlice(PieSliceInfo& slice, std::int16_t number, LegendWiring& legend) {

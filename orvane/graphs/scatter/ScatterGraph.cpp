@@ -7,6 +7,7 @@
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 namespace orvane {
@@ -51,7 +52,7 @@ const host::TypeInfo& ScatterGraph::Type() const {
               {"Number of point frames; a let adds empty ones or removes trailing ones", "", ">= 1",
                "0"})
           .Property<double>("FrameTimeGap", &Graph::FrameTimeGap, &Graph::FrameTimeGap,
-                            {"Time from one frame to the next", "seconds", ">= 1", "1"})
+                            {"Time from one frame to the next", "seconds", ">= 1, finite", "1"})
           .Property<LoopStyle>(
               "AnimationLoopStyle", &Graph::AnimationLoopStyle, &Graph::AnimationLoopStyle,
               {"What an animation does after the last frame", "", "", "VRML_NO_LOOP"})
@@ -98,12 +99,15 @@ std::shared_ptr<PointCollection> ScatterGraph::Get1PointFrame(std::int16_t index
 
 void ScatterGraph::PointFrameCount(std::int16_t count) {
   host::Require(count >= 1, "There must be at least one point frame in the scene");
-  while (m_frames->Count() > count) m_frames->RemoveSeries(m_frames->Count());
-  while (m_frames->Count() < count) m_frames->AddSeries(std::make_shared<PointCollection>());
+  m_frames->Resize(count, [] { return std::make_shared<PointCollection>(); });
 }
 
 void ScatterGraph::FrameTimeGap(double seconds) {
   host::Require(seconds >= 1, "The frame time gap must take at least 1 second");
+  if (std::isinf(seconds)) {
+    throw host::AutomationError(host::ErrorNumber::Overflow,
+                                "Overflow: the frame time gap must be finite");
+  }
   m_frameTimeGap = seconds;
 }
 

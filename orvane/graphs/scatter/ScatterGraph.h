@@ -54,7 +54,7 @@ class ORVANE_API ScatterGraph final : public Chart {
   std::int16_t PointFrameCount() const { return m_frames->Count(); }
   void PointFrameCount(std::int16_t count);
 
-  /// Seconds from one frame to the next, >= 1. Default 1.
+  /// Seconds from one frame to the next, >= 1 and finite. Default 1.
   double FrameTimeGap() const { return m_frameTimeGap; }
   void FrameTimeGap(double seconds);
   /// Unchecked; other values count as VRML_NO_LOOP, the default.

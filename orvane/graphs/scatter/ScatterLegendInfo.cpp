@@ -21,7 +21,7 @@ void ScatterLegendInfo::AddLegendEntry(std::int32_t newColor, const std::string&
   const auto material = scene::Create<scene::Material>();
   appearance->material.Value(material);
   material->diffuseColor.Value(newColor);
-  AddEntry(appearance, newText);
+  AddEntries({{appearance, newText}});
 }
 
 }  // namespace orvane

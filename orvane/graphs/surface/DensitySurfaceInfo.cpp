@@ -44,7 +44,7 @@ void DensitySurfaceInfo::GenerateParzenMap(float graphHeight) {
     auto heights = ParzenMap(m_points->Items(), {static_cast<std::size_t>(XCount()), XSpacing()},
                              {static_cast<std::size_t>(ZCount()), ZSpacing()}, m_sigma);
     ScaleHeights(heights, 0, graphHeight);
-    Heights(heights);
+    Heights(ForAll(heights));
   } catch (const std::bad_alloc&) {
     RaiseTooLarge(XCount(), ZCount());
   }

@@ -43,16 +43,20 @@ void LatticeSurface::ZSpacing(float spacing) {
 
 std::int16_t LatticeSurface::XCount() const { return host::Int16(m_surface->xDimension.Value()); }
 
-void LatticeSurface::XCount(std::int16_t count) {
-  host::Require(count > 1, "Invalid X axis surface point count, must be greater than 1");
-  Resize(count, ZCount());
-}
+void LatticeSurface::XCount(std::int16_t count) { Resize(CheckedXCount(count), ZCount()); }
 
 std::int16_t LatticeSurface::ZCount() const { return host::Int16(m_surface->zDimension.Value()); }
 
-void LatticeSurface::ZCount(std::int16_t count) {
+void LatticeSurface::ZCount(std::int16_t count) { Resize(XCount(), CheckedZCount(count)); }
+
+std::int16_t LatticeSurface::CheckedXCount(std::int16_t count) {
+  host::Require(count > 1, "Invalid X axis surface point count, must be greater than 1");
+  return count;
+}
+
+std::int16_t LatticeSurface::CheckedZCount(std::int16_t count) {
   host::Require(count > 1, "Invalid Z axis surface point count, must be greater than 1");
-  Resize(XCount(), count);
+  return count;
 }
 
 void LatticeSurface::Resize(std::int16_t xCount, std::int16_t zCount) {
@@ -63,10 +67,9 @@ void LatticeSurface::Resize(std::int16_t xCount, std::int16_t zCount) {
   }
 }
 
-void LatticeSurface::Heights(const std::vector<float>& heights) {
-  std::vector<std::vector<float>> copies(m_lattices.size(), heights);
-  for (std::size_t i = 0; i < copies.size(); ++i) {
-    m_lattices[i].height->Items(std::move(copies[i]));
+void LatticeSurface::Heights(HeightLists heights) {
+  for (std::size_t i = 0; i < heights.size(); ++i) {
+    m_lattices[i].height->Items(std::move(heights[i]));
   }
 }
 

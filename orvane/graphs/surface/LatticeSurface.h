@@ -99,11 +99,18 @@ class ORVANE_API LatticeSurface : public host::Object,
   /// Gives all lattices new point counts, >= 2, and leaves the heights as they are.
   virtual void Resize(std::int16_t xCount, std::int16_t zCount);
 
-  /// Gives all lattices new heights, one a point, or none when that fails.
-  void Heights(const std::vector<float>& heights);
+  /// The same heights for each lattice, one a point.
+  using HeightLists = std::vector<std::vector<float>>;
+  HeightLists ForAll(const std::vector<float>& heights) const {
+    return HeightLists(m_lattices.size(), heights);
+  }
+  void Heights(HeightLists heights);
   /// Replaces the height of the point at `index`, counted from 1.
   void Height(std::int32_t index, float height);
 
+  /// `count`, when a lattice may have as many points along the axis; a component error otherwise.
+  static std::int16_t CheckedXCount(std::int16_t count);
+  static std::int16_t CheckedZCount(std::int16_t count);
   /// Number of points of a lattice. Raises Overflow above kMostPoints.
   static std::size_t PointCount(std::int16_t xCount, std::int16_t zCount);
   /// Raises Overflow for a lattice that does not fit in memory.

@@ -3,6 +3,9 @@
 #include "orvane/graphs/grid/DescribeGridGraph.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
 
+#include <utility>
+#include <vector>
+
 namespace orvane {
 
 const host::TypeInfo& SurfaceGraph::Type() const {
@@ -18,18 +21,21 @@ const host::TypeInfo& SurfaceGraph::Type() const {
 }
 
 SurfaceGraph::SurfaceGraph() {
-  m_xCellCountChanged = Grid().XCellCountChanged.Connect(
-      [this](std::int16_t newCount) { m_gridInfo_XCellCountChanged(newCount); });
-  m_zCellCountChanged = Grid().ZCellCountChanged.Connect(
-      [this](std::int16_t newCount) { m_gridInfo_ZCellCountChanged(newCount); });
+  m_xCellCountFollowed = Grid().XCellCountFollowed.Connect([this](std::int16_t count) {
+    ResizeSurfaces([&](const SurfaceInfo& surface) { return surface.BlankOfXCount(count); });
+  });
+  m_zCellCountFollowed = Grid().ZCellCountFollowed.Connect([this](std::int16_t count) {
+    ResizeSurfaces([&](const SurfaceInfo& surface) { return surface.BlankOfZCount(count); });
+  });
 }
 
-void SurfaceGraph::m_gridInfo_XCellCountChanged(std::int16_t newCount) {
-  for (const std::int16_t i : Indexes(SurfaceCount())) GetSurface(i)->XCount(newCount);
-}
-
-void SurfaceGraph::m_gridInfo_ZCellCountChanged(std::int16_t newCount) {
-  for (const std::int16_t i : Indexes(SurfaceCount())) GetSurface(i)->ZCount(newCount);
+void SurfaceGraph::ResizeSurfaces(
+    const std::function<SurfaceInfo::Blank(const SurfaceInfo&)>& blank) {
+  const auto surfaces = Indexes(SurfaceCount());
+  std::vector<SurfaceInfo::Blank> blanks;
+  for (const std::int16_t i : surfaces) blanks.push_back(blank(*GetSurface(i)));
+  auto next = blanks.begin();
+  for (const std::int16_t i : surfaces) GetSurface(i)->Take(std::move(*next++));
 }
 
 }  // namespace orvane

@@ -4,7 +4,7 @@
 #include "orvane/graphs/grid/CategoryGraph.h"
 #include "orvane/graphs/surface/SurfaceChart.h"
 
-#include <cstdint>
+#include <functional>
 
 namespace orvane {
 
@@ -21,11 +21,11 @@ class ORVANE_API SurfaceGraph final : public SurfaceChart<CategoryGraph> {
   void BuildSeries(LegendWiring& legend) override { LayOutSurfaces(Contents(), legend); }
 
  private:
-  void m_gridInfo_XCellCountChanged(std::int16_t newCount);
-  void m_gridInfo_ZCellCountChanged(std::int16_t newCount);
+  /// Gives all surfaces a blank lattice that `blank` makes of each, or none of them.
+  void ResizeSurfaces(const std::function<SurfaceInfo::Blank(const SurfaceInfo&)>& blank);
 
-  host::Subscription m_xCellCountChanged;
-  host::Subscription m_zCellCountChanged;
+  host::Subscription m_xCellCountFollowed;
+  host::Subscription m_zCellCountFollowed;
 };
 
 }  // namespace orvane

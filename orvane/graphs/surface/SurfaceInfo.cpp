@@ -29,20 +29,22 @@ const host::TypeInfo& SurfaceInfo::Type() const {
 SurfaceInfo::SurfaceInfo() {
   Join(LatticeOf(*m_popups->PopupSurfaceNode()));
   Root()->children.Append(m_popups->Root());
-  Resize(2, 2);
+  Take(BlankOf(2, 2));
 }
 
-void SurfaceInfo::Resize(std::int16_t xCount, std::int16_t zCount) {
+SurfaceInfo::Blank SurfaceInfo::BlankOf(std::int16_t xCount, std::int16_t zCount) const {
   const std::size_t count = PointCount(xCount, zCount);
-  std::vector<std::string> texts;
   try {
-    texts.resize(count);
-    Heights(std::vector<float>(count));
+    return {xCount, zCount, ForAll(std::vector<float>(count)), std::vector<std::string>(count)};
   } catch (const std::bad_alloc&) {
     RaiseTooLarge(xCount, zCount);
   }
-  LatticeSurface::Resize(xCount, zCount);
-  m_popups->PopupSurfaceNode()->popupText.Items(std::move(texts));
+}
+
+void SurfaceInfo::Take(Blank blank) {
+  LatticeSurface::Resize(blank.xCount, blank.zCount);
+  Heights(std::move(blank.heights));
+  m_popups->PopupSurfaceNode()->popupText.Items(std::move(blank.texts));
 }
 
 void SurfaceInfo::Set1HeightPoint(std::int16_t xIndex, std::int16_t zIndex, float newHeight,

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace orvane {
 
@@ -27,12 +28,25 @@ class ORVANE_API SurfaceInfo final : public LatticeSurface {
   float PopupZOffset() const override { return m_popups->Root()->translation.Z(); }
   void PopupZOffset(float offset) override { m_popups->Root()->translation.Z(offset); }
 
+  /// A lattice of other point counts: its heights are 0 and its texts empty.
+  struct Blank {
+    std::int16_t xCount;
+    std::int16_t zCount;
+    HeightLists heights;
+    std::vector<std::string> texts;
+  };
+  /// What a let of XCount or ZCount puts in place, made and not yet there; raises as they do.
+  Blank BlankOfXCount(std::int16_t count) const { return BlankOf(CheckedXCount(count), ZCount()); }
+  Blank BlankOfZCount(std::int16_t count) const { return BlankOf(XCount(), CheckedZCount(count)); }
+  void Take(Blank blank);
+
   /// Puts the lattice points over the centres of a grid's cells.
   void StandInCells(float cellWidth, float cellDepth);
 
  private:
+  Blank BlankOf(std::int16_t xCount, std::int16_t zCount) const;
   /// Sets all heights to 0 and all texts to nothing as well.
-  void Resize(std::int16_t xCount, std::int16_t zCount) override;
+  void Resize(std::int16_t xCount, std::int16_t zCount) override { Take(BlankOf(xCount, zCount)); }
 
   std::shared_ptr<SurfacePopupInfo> m_popups = std::make_shared<SurfacePopupInfo>();
 };

@@ -11,7 +11,6 @@
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 namespace orvane {
 
@@ -24,16 +23,10 @@ class SurfaceList {
 
   std::int16_t Count() const { return m_surfaces.Count(); }
 
-  /// Adds surfaces that `make()` returns, all of them or none, or removes trailing ones. A
-  /// component error for a negative count.
-  template <class F>
-  void Count(std::int16_t count, F make) {
-    for (int i = Count() - count; i > 0; --i) {
-      m_surfaces.RemoveSeries(static_cast<std::int16_t>(count + 1));
-    }
-    std::vector<std::shared_ptr<S>> added;
-    for (int i = Count(); i < count; ++i) added.push_back(make());
-    for (const auto& surface : added) m_surfaces.AddSeries(surface);
+  /// Adds surfaces that `make` makes, all of them or none, or removes trailing ones. A component
+  /// error for a negative count.
+  void Count(std::int16_t count, const SeriesCollection::Make& make) {
+    m_surfaces.Resize(count, make);
   }
 
   /// Surface `index`; a component error outside 1..Count.

@@ -1,4 +1,5 @@
 /// Viewpoints: everything in view, and nothing nearer possible.
+#include "orvane/tables/layout/Texts.h"
 #include "orvane/tables/layout/Views.h"
 
 #include <algorithm>
@@ -34,6 +35,10 @@ Point Unit(const Point& a) { return Sum({}, a, 1 / std::hypot(a.x, a.y, a.z)); }
 
 std::vector<Point> Box(double x, double y, double z) {
   return {{0, 0, 0}, {x, 0, 0}, {0, y, 0}, {0, 0, z}, {x, y, 0}, {x, 0, z}, {0, y, z}, {x, y, z}};
+}
+
+TEST(TextWidth, CountsMalformedBytesAsCharacters) {
+  EXPECT_EQ(TextWidth("\xff\xe2\x82", 1), TextWidth("abc", 1));
 }
 
 TEST(Views, ShowAllOfTheChartAndFillTheWindow) {
