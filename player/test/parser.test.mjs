@@ -65,3 +65,10 @@ test('what is not played is named, once a type, and left out with all that refer
   assert.deepEqual(warnings.map((warning) => warning.match(/^Line (\d+).*(Sound|Other)/).slice(1)),
     [['4', 'Other'], ['5', 'Sound'], ['5', 'Other']]);
 });
+
+test('a PROTO of a compiled-in name has the compiled-in body; another has its own', () => {
+  const { nodes } = parse(`PROTO qm4_CheckBox [ field SFBool isOn TRUE ] { Group { none [ of this ] } }
+    PROTO Mine [ field SFFloat r 2 ] { Sphere { radius IS r } } qm4_CheckBox { isOn FALSE } Mine { r 3 }`);
+  assert.equal(nodes[0].type, library.get('qm4_CheckBox'));
+  assert.deepEqual(nodes[1].type.body.nodes[0].is, { radius: 'r' });
+});

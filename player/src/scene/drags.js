@@ -45,7 +45,7 @@ class PlaneDrag extends Drag {
     if (track === null) return;
     const moved = track.subtract(this.start).add(new SFVec3f(this.offset.x, this.offset.y, this.offset.z));
     const low = this.node.get('minPosition'), high = this.node.get('maxPosition');
-    const place = new SFVec3f(within(moved.x, low.x, high.x), within(moved.y, low.y, high.y), moved.z);
+    const place = new SFVec3f(within(moved.x, low.x, high.x), within(moved.y, low.y, high.y), this.offset.z);
     this.say('translation_changed', place, track);
   }
 }

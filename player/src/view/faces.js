@@ -2,6 +2,10 @@
 
 import { ShapeUtils, Vector2 } from 'three';
 
+// Up to so many faces, each has corners of its own, so that light varies over it; beyond, a face has one light
+// and shares its corners.
+const FEW = 200;
+
 /** @typedef {{position: Float32Array, normal: ?Float32Array, color: ?Float32Array, uv: ?Float32Array,
  *             index: Uint16Array|Uint32Array, isFlat: boolean}} Triangles
  *  isFlat: a triangle has one normal, that of its last vertex; colours are one a triangle, too, when
@@ -16,7 +20,7 @@ export function triangles(set) {
   const isFaceted = set.normals ? !set.normalPerVertex : mesh.isFaceted(set.creaseAngle);
   const isPlainColor = !set.colors || !set.colorPerVertex || sameIndex(set.colorIndex, set.coordIndex);
   const isPlainMap = !set.texCoords || sameIndex(set.texCoordIndex, set.coordIndex);
-  if (isFaceted && isPlainColor && isPlainMap) return mesh.faceted();
+  if (isFaceted && isPlainColor && isPlainMap && mesh.faceCount > FEW) return mesh.faceted();
   return mesh.smooth(isFaceted);
 }
 

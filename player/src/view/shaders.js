@@ -61,10 +61,16 @@ void light(vec3 at, vec3 normal, out vec3 front, out vec3 back, out vec3 glare, 
 const FRONT = `
 precision highp float;
 precision highp int;
+#ifdef FLAT
+#define SHADE flat
+#else
+#define SHADE smooth
+#endif
 `;
 
-/** Faces, lines, points and texts. LIT faces have a normal. FLAT ones take it from the last vertex of each
- *  triangle and are lit at every pixel, round ones at their vertices. */
+/** Faces, lines, points and texts. LIT faces have a normal and are lit at their vertices: light at every pixel
+ *  costs four times as much where pixels are drawn in software. FLAT ones have the light of the last vertex of
+ *  each triangle. */
 export const SHAPE_VERTEX = `${FRONT}
 uniform mat4 modelViewMatrix, projectionMatrix;
 uniform mat3 normalMatrix;
@@ -89,17 +95,13 @@ out float eyeDistance;
 #endif
 #ifdef LIT
 in vec3 normal;
-#ifdef FLAT
-flat out vec3 eyeNormal;
-out vec3 eyePlace;
-#else
 ${LIGHTING}
-out vec3 frontLight;
-out vec3 frontGlare;
+SHADE out vec3 frontLight;
 #ifdef TWO_SIDED
-out vec3 backLight;
-out vec3 backGlare;
+SHADE out vec3 backLight;
 #endif
+#ifdef SPECULAR
+SHADE out vec3 frontGlare, backGlare;
 #endif
 #endif
 
@@ -118,16 +120,14 @@ void main() {
 #endif
 #ifdef LIT
   vec3 n = normalize(normalMatrix * normal);
-#ifdef FLAT
-  eyeNormal = n;
-  eyePlace = at.xyz;
-#else
-  vec3 otherLight, otherGlare;
-  light(at.xyz, n, frontLight, otherLight, frontGlare, otherGlare);
+  vec3 other, glare, otherGlare;
+  light(at.xyz, n, frontLight, other, glare, otherGlare);
 #ifdef TWO_SIDED
-  backLight = otherLight;
-  backGlare = otherGlare;
+  backLight = other;
 #endif
+#ifdef SPECULAR
+  frontGlare = glare;
+  backGlare = otherGlare;
 #endif
 #endif
 }
@@ -153,17 +153,12 @@ uniform vec4 fogColor; // a: visibilityRange
 in float eyeDistance;
 #endif
 #ifdef LIT
-#ifdef FLAT
-flat in vec3 eyeNormal;
-in vec3 eyePlace;
-${LIGHTING}
-#else
-in vec3 frontLight;
-in vec3 frontGlare;
+SHADE in vec3 frontLight;
 #ifdef TWO_SIDED
-in vec3 backLight;
-in vec3 backGlare;
+SHADE in vec3 backLight;
 #endif
+#ifdef SPECULAR
+SHADE in vec3 frontGlare, backGlare;
 #endif
 #endif
 out vec4 fragment;
@@ -187,19 +182,14 @@ void main() {
   if (base.a < 0.004) discard;
 #endif
 #ifdef LIT
-#ifdef FLAT
-  vec3 lightSum, backLight, glare, backGlare;
 #ifdef TWO_SIDED
-  light(eyePlace, gl_FrontFacing ? eyeNormal : -eyeNormal, lightSum, backLight, glare, backGlare);
+  vec3 shade = base.rgb * (gl_FrontFacing ? frontLight : backLight) + emissive;
 #else
-  light(eyePlace, eyeNormal, lightSum, backLight, glare, backGlare);
+  vec3 shade = base.rgb * frontLight + emissive;
 #endif
-#elif defined(TWO_SIDED)
-  vec3 lightSum = gl_FrontFacing ? frontLight : backLight, glare = gl_FrontFacing ? frontGlare : backGlare;
-#else
-  vec3 lightSum = frontLight, glare = frontGlare;
+#ifdef SPECULAR
+  shade += gl_FrontFacing ? frontGlare : backGlare;
 #endif
-  vec3 shade = base.rgb * lightSum + glare + emissive;
 #else
   vec3 shade = base.rgb;
 #endif
