@@ -11,12 +11,11 @@
 namespace orvane {
 
 ChartLegend::ChartLegend()
-    : m_root(scene::Create<scene::Transform>()),
-      m_legendTransform(scene::Create<scene::Transform>()),
+    : m_legendTransform(scene::Create<scene::Transform>()),
       m_billboard(scene::Create<scene::Billboard>()),
       m_legend(scene::Create<scene::Legend>()) {
   m_legendTransform->children.Append(m_legend);
-  m_root->children.Append(m_legendTransform);
+  Root()->children.Append(m_legendTransform);
 }
 
 LegendKeyStyle ChartLegend::KeyStyle() const {
@@ -30,9 +29,9 @@ void ChartLegend::KeyStyle(LegendKeyStyle style) {
 void ChartLegend::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
   const auto parts = Contents().Items();
-  m_root->children.Clear();
+  Root()->children.Clear();
   m_billboard->children.Clear();
-  if (isBillboarded) m_root->children.Append(m_billboard);
+  if (isBillboarded) Root()->children.Append(m_billboard);
   m_isBillboarded = isBillboarded;
   for (const auto& part : parts) Contents().Append(part);
 }
@@ -65,7 +64,7 @@ void ChartLegend::ClearEntries() {
 }
 
 scene::MFNode& ChartLegend::Contents() const {
-  return m_isBillboarded ? m_billboard->children : m_root->children;
+  return m_isBillboarded ? m_billboard->children : Root()->children;
 }
 
 }  // namespace orvane

@@ -22,11 +22,9 @@ const host::TypeInfo& DrillDownInfo::Type() const {
 }
 
 DrillDownInfo::DrillDownInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_cones(scene::Create<scene::ConeCollection>()),
-      m_router(scene::Create<scene::Router>()) {
-  m_root->children.Append(m_cones);
-  m_root->children.Append(m_router);
+    : m_cones(scene::Create<scene::ConeCollection>()), m_router(scene::Create<scene::Router>()) {
+  Root()->children.Append(m_cones);
+  Root()->children.Append(m_router);
   ConeColor(0xA57421);
   constexpr float kHalfTurn = 3.14159F;
   m_cones->coneRotation.SetValue(1, 0, 0, kHalfTurn);

@@ -27,15 +27,14 @@ const host::TypeInfo& DrillUpInfo::Type() const {
 }
 
 DrillUpInfo::DrillUpInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_shape(scene::Create<scene::Shape>()),
+    : m_shape(scene::Create<scene::Shape>()),
       m_anchor(scene::Create<scene::Anchor>()),
       m_cone(scene::Create<scene::Cone>()),
       m_appearance(scene::Create<scene::Appearance>()),
       m_material(scene::Create<scene::Material>()) {
   m_cone->bottomRadius.Value(0.5F);
   m_cone->height.Value(1.0F);
-  m_root->children.Append(m_anchor);
+  Root()->children.Append(m_anchor);
   m_anchor->children.Append(m_shape);
   m_shape->appearance.Value(m_appearance);
   m_shape->geometry.Value(m_cone);

@@ -90,11 +90,10 @@ const host::TypeInfo& GridInfo::Type() const {
 }
 
 GridInfo::GridInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_grid(scene::Create<scene::ChartGrid>()),
+    : m_grid(scene::Create<scene::ChartGrid>()),
       m_wallAppearance(scene::Create<scene::Appearance>()),
       m_wallMaterial(scene::Create<scene::Material>()) {
-  m_root->children.Append(m_grid);
+  Root()->children.Append(m_grid);
   m_grid->wallAppearance.Value(m_wallAppearance);
   m_wallAppearance->material.Value(m_wallMaterial);
   LineColor(0);

@@ -27,8 +27,7 @@ const host::TypeInfo& GridInteractivityInfo::Type() const {
 GridInteractivityInfo::GridInteractivityInfo()
     : m_drillUp(std::make_shared<DrillUpInfo>()),
       m_xDrillDown(std::make_shared<DrillDownInfo>()),
-      m_zDrillDown(std::make_shared<DrillDownInfo>()),
-      m_root(scene::Create<scene::Group>()) {}
+      m_zDrillDown(std::make_shared<DrillDownInfo>()) {}
 
 void GridInteractivityInfo::UseDrillUp(bool use) { Switch(m_usesDrillUp, use, *m_drillUp); }
 
@@ -43,9 +42,9 @@ void GridInteractivityInfo::UseZAxisDrillDown(bool use) {
 void GridInteractivityInfo::Switch(bool& flag, bool use, const ISceneRoot& part) {
   if (use == flag) return;
   if (use) {
-    m_root->children.Append(part.RootNode());
+    Root()->children.Append(part.RootNode());
   } else {
-    m_root->children.Remove(part.RootNode());
+    Root()->children.Remove(part.RootNode());
   }
   flag = use;
 }

@@ -21,11 +21,10 @@ const host::TypeInfo& LightCollection::Type() const {
 }
 
 LightCollection::LightCollection()
-    : m_root(scene::Create<scene::Group>()),
-      m_lights(scene::Create<scene::Group>()),
+    : m_lights(scene::Create<scene::Group>()),
       m_navigation(scene::Create<scene::NavigationInfo>()) {
-  m_root->children.Append(m_navigation);
-  m_root->children.Append(m_lights);
+  Root()->children.Append(m_navigation);
+  Root()->children.Append(m_lights);
 }
 
 std::shared_ptr<scene::PointLight> LightCollection::GetLightSource(std::int16_t index) const {

@@ -30,8 +30,6 @@ const host::TypeInfo& SeriesToggleInfo::Type() const {
   return type;
 }
 
-SeriesToggleInfo::SeriesToggleInfo() : m_root(scene::Create<scene::Transform>()) {}
-
 std::shared_ptr<scene::Node> SeriesToggleInfo::Get1CheckBox(std::int16_t index) const {
   host::Require(index >= 1 && index <= Count(), "Invalid index into the list of check boxes");
   return m_boxes[static_cast<std::size_t>(index - 1)];
@@ -50,7 +48,7 @@ void SeriesToggleInfo::MakeCheckBox() {
   box->SetDefName("CHECK_BOX_" + std::to_string(number));
   auto transform = scene::Create<scene::Transform>();
   transform->children.Append(box);
-  m_root->children.Append(transform);
+  Root()->children.Append(transform);
   m_boxes.push_back(std::move(box));
   m_transforms.push_back(std::move(transform));
 }
@@ -68,7 +66,7 @@ void SeriesToggleInfo::Height(float height) {
 void SeriesToggleInfo::ClearCheckBoxes() {
   m_boxes.clear();
   m_transforms.clear();
-  m_root->children.Clear();
+  Root()->children.Clear();
 }
 
 std::int16_t SeriesToggleInfo::Count() const {

@@ -24,20 +24,19 @@ const host::TypeInfo& TextInfo::Type() const {
   return type;
 }
 
-TextInfo::TextInfo()
-    : m_root(scene::Create<scene::Transform>()), m_billboard(scene::Create<scene::Billboard>()) {
-  m_root->children.Append(m_line.Node());
+TextInfo::TextInfo() : m_billboard(scene::Create<scene::Billboard>()) {
+  Root()->children.Append(m_line.Node());
 }
 
 void TextInfo::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
-  m_root->children.Clear();
+  Root()->children.Clear();
   m_billboard->children.Clear();
   if (isBillboarded) {
-    m_root->children.Append(m_billboard);
+    Root()->children.Append(m_billboard);
     m_billboard->children.Append(m_line.Node());
   } else {
-    m_root->children.Append(m_line.Node());
+    Root()->children.Append(m_line.Node());
   }
   m_isBillboarded = isBillboarded;
 }

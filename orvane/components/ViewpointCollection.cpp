@@ -19,18 +19,16 @@ const host::TypeInfo& ViewpointCollection::Type() const {
   return type;
 }
 
-ViewpointCollection::ViewpointCollection() : m_root(scene::Create<scene::Group>()) {}
-
 std::shared_ptr<scene::Viewpoint> ViewpointCollection::GetViewpoint(std::int16_t index) const {
-  return std::dynamic_pointer_cast<scene::Viewpoint>(m_root->children.Item(index));
+  return std::dynamic_pointer_cast<scene::Viewpoint>(Root()->children.Item(index));
 }
 
 std::shared_ptr<scene::Viewpoint> ViewpointCollection::AddViewpoint() {
   auto viewpoint = scene::Create<scene::Viewpoint>();
-  m_root->children.Append(viewpoint);
+  Root()->children.Append(viewpoint);
   return viewpoint;
 }
 
-std::int16_t ViewpointCollection::Count() const { return host::Int16(m_root->children.Count()); }
+std::int16_t ViewpointCollection::Count() const { return host::Int16(Root()->children.Count()); }
 
 }  // namespace orvane

@@ -30,7 +30,6 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   DressAxis(*chart.ZAxisProps(), layout.zLabels, "", layout, style);
   for (const auto& text : layout.xLabels.texts) chart.XAxisProps()->Labels().Append(text);
   for (const auto& text : layout.zLabels.texts) chart.ZAxisProps()->Labels().Append(text);
-  SetLabelsOff(*chart.XAxisProps(), *chart.YAxisProps(), *chart.ZAxisProps(), layout);
   DressValues(*chart.YAxisProps(), layout.scale);
 }
 
@@ -50,6 +49,7 @@ void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartO
   const Style style(options.background);
   DressCells(*chart.GridProps(), layout, style);
   DressAxes(chart, layout, style);
+  chart.Placement() = layout.placement;
   DressAroundGrid(chart, *chart.LegendProps(), layout, SubjectOf(layout), options);
   chart.LegendProps()->UseSeriesToggle(options.useToggles);
 }

@@ -64,7 +64,7 @@ std::shared_ptr<G> MakeCombo(const Table& table, const Table& surface, const Cha
   const ValueScale scale = RoundScale(std::min(lowest, surfaceLowest),
                                       std::max(highest, surfaceHighest), kMostValueCells);
   const GridLayout layout =
-      LayOutGrid(texts, scale, SizeFor(texts.x.size(), texts.z.size()), options);
+      LayOutCategories(texts, scale, SizeFor(texts.x.size(), texts.z.size()), options);
 
   auto chart = std::make_shared<G>();
   DressGridChart(*chart, layout, options);
@@ -86,8 +86,8 @@ std::shared_ptr<SurfaceGraph> MakeSurfaceChart(const Table& grid, const ChartOpt
   RequireSurface(grid);
   const auto [lowest, highest] = RangeOf(grid);
   const GridTexts texts{TextsOf(grid).z, grid.categories, {NameOf(grid)}, ""};
-  const GridLayout layout = LayOutGrid(texts, FittedScale(lowest, highest, kMostValueCells),
-                                       SizeOfMap(texts.x.size(), texts.z.size()), options);
+  const GridLayout layout = LayOutCategories(texts, FittedScale(lowest, highest, kMostValueCells),
+                                             SizeOfMap(texts.x.size(), texts.z.size()), options);
   auto chart = std::make_shared<SurfaceGraph>();
   DressGridChart(*chart, layout, options);
   chart->SurfaceCount(1);

@@ -99,6 +99,16 @@ TEST(Axis, PutsTheHeaderBesideTheMiddleOfTheLabels) {
   axis.AlignHeader();
   EXPECT_FLOAT_EQ(header.transform->translation.X(), -1.21F);
   EXPECT_FLOAT_EQ(header.transform->rotation.Angle(), -1.5708F);
+  axis.AlignHeader({{0, 3}, 0.5});
+  EXPECT_EQ(header.transform->translation.X(), -3);
+  EXPECT_EQ(header.transform->translation.Y(), -2.5F);
+}
+
+TEST(Axis, LevelsLabelsOfAnyHeightBelowItsOrigin) {
+  DiscreteAxis axis;
+  axis.LabelHeight(2);
+  axis.LevelLabels(0.5);
+  EXPECT_FLOAT_EQ(PartOf(axis, 0).transform->translation.Y(), -1.7F);
 }
 
 TEST(Axis, HidesAndShowsBothPartsInOrder) {

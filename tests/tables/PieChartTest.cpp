@@ -122,7 +122,7 @@ TEST(PieLayout, KeepsLabelsClearOfPieLegendAndEachOther) {
         const double x = label.distance * std::cos(label.angle);
         const double z = label.distance * std::sin(label.angle);
         const double half = TextWidth(label.text, layout.textHeight) / 2;
-        EXPECT_LT(x + half, layout.legendPlace.x);
+        EXPECT_LT(x + half, layout.LegendPlace().x);
         for (const double corner : {x - half, x, x + half}) {
           EXPECT_GT(std::hypot(corner, z), layout.radius) << count;
         }

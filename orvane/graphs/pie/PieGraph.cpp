@@ -113,12 +113,16 @@ float PieGraph::MaxHeight() const {
   return height;
 }
 
-void PieGraph::AlignTitle() { TitleProps()->Root()->translation.Y(Single(2.0 * MaxHeight())); }
+void PieGraph::AlignTitle() {
+  auto& translation = TitleProps()->Root()->translation;
+  translation.Y(Single(m_placement.titleY.Of(MaxHeight())));
+  if (m_placement.titleZ) translation.Z(Single(*m_placement.titleZ));
+}
 
 void PieGraph::AlignLegend() {
   auto& translation = m_legend->Root()->translation;
-  translation.X(Single(m_radius * 1.4));
-  translation.Y(Single(MaxHeight() * 0.2));
+  translation.X(Single(m_placement.legendX.Of(m_radius)));
+  translation.Y(Single(m_placement.legendY.Of(MaxHeight())));
 }
 
 void PieGraph::BuildSlices() {

@@ -57,7 +57,6 @@ const host::TypeInfo& PieSliceInfo::Type() const {
 PieSliceInfo::PieSliceInfo()
     : m_text(std::make_shared<TextInfo>()),
       m_drillDown(std::make_shared<DrillUpInfo>()),
-      m_root(scene::Create<scene::Transform>()),
       m_inner(scene::Create<scene::Transform>()),
       m_drillDownTransform(scene::Create<scene::Transform>()),
       m_sensor(scene::Create<scene::PlaneSensor>()),
@@ -77,14 +76,14 @@ PieSliceInfo::PieSliceInfo()
   m_rounded->appearance.Value(m_appearance);
   m_ring->appearance.Value(m_appearance);
 
-  m_root->children.Append(m_inner);
+  Root()->children.Append(m_inner);
   m_inner->children.Append(m_sensor);
   m_inner->children.Append(m_toggle);
   m_text->IsBillboarded(true);
   m_textToggle->contents.Append(m_text->RootNode());
   FillToggle(m_outlined);
   // Lays the cone on its side, its tip towards the rim.
-  m_drillDown->Root()->rotation.SetValue(0, 0, 1, 1.5708F);
+  m_drillDown->Root()->rotation.SetValue(0, 0, 1, kQuarterTurn);
 
   Percentage(0.2F);
   // Puts text and cone where they belong on a slice of the shapes' own height.
@@ -105,7 +104,7 @@ void PieSliceInfo::Percentage(float share) {
 
 void PieSliceInfo::Height(float height) {
   host::Require(height > 0, "Invalid slice height, must be greater than 0");
-  const float textHeight = Single(height * 1.1);
+  const float textHeight = Single(m_textPlacement.height.Of(height));
   m_outlined->height.Value(height);
   m_rounded->height.Value(height);
   m_ring->height.Value(height);
@@ -115,6 +114,7 @@ void PieSliceInfo::Height(float height) {
 
 void PieSliceInfo::radius(float value) {
   host::Require(value > 0, "Invalid radius, must be greater than 0");
+  const float textDistance = Single(m_textPlacement.distance.Of(value));
   const float coneHeight = Single(value * 0.1);
   const float coneDistance = Single(value * 1.05 + coneHeight / 2.0);
   // The smaller one first: it alone can come to 0 and be rejected.
@@ -123,8 +123,16 @@ void PieSliceInfo::radius(float value) {
   m_outlined->radius.Value(value);
   m_rounded->radius.Value(value);
   m_ring->radius.Value(value);
-  MoveAlongX(*m_text->Root(), value);
+  MoveAlongX(*m_text->Root(), textDistance);
   MoveAlongX(*m_drillDownTransform, coneDistance);
+}
+
+void PieSliceInfo::TextPlacement(const SliceTextPlacement& placement) {
+  const float distance = Single(placement.distance.Of(radius()));
+  const float height = Single(placement.height.Of(Height()));
+  m_textPlacement = placement;
+  MoveAlongX(*m_text->Root(), distance);
+  MoveAlongY(*m_text->Root(), height);
 }
 
 void PieSliceInfo::InnerRadius(float radius) {

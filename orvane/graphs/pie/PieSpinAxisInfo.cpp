@@ -24,8 +24,7 @@ const host::TypeInfo& PieSpinAxisInfo::Type() const {
 }
 
 PieSpinAxisInfo::PieSpinAxisInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_shape(scene::Create<scene::Shape>()),
+    : m_shape(scene::Create<scene::Shape>()),
       m_cylinder(scene::Create<scene::Cylinder>()),
       m_sensor(scene::Create<scene::CylinderSensor>()),
       m_appearance(scene::Create<scene::Appearance>()),
@@ -40,10 +39,10 @@ PieSpinAxisInfo::PieSpinAxisInfo()
 void PieSpinAxisInfo::UseSpinAxis(bool use) {
   if (use == m_isUsed) return;
   m_isUsed = use;
-  m_root->children.Clear();
+  Root()->children.Clear();
   if (!use) return;
-  m_root->children.Append(m_sensor);
-  m_root->children.Append(m_shape);
+  Root()->children.Append(m_sensor);
+  Root()->children.Append(m_shape);
 }
 
 void PieSpinAxisInfo::radius(float value) {

@@ -30,9 +30,8 @@ const host::TypeInfo& PointCollection::Type() const {
   return type;
 }
 
-PointCollection::PointCollection()
-    : m_root(scene::Create<scene::Group>()), m_spheres(scene::Create<scene::SphereCollection>()) {
-  m_root->children.Append(m_spheres);
+PointCollection::PointCollection() : m_spheres(scene::Create<scene::SphereCollection>()) {
+  Root()->children.Append(m_spheres);
 }
 
 void PointCollection::AddPoint(float x, float y, float z, float radius, std::int32_t color,

@@ -43,8 +43,7 @@ const host::TypeInfo& SliderInfo::Type() const {
 }
 
 SliderInfo::SliderInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_sliderTransform(scene::Create<scene::Transform>()),
+    : m_sliderTransform(scene::Create<scene::Transform>()),
       m_labelTransform(scene::Create<scene::Transform>()),
       m_slider(scene::Create<scene::Slider>()) {
   m_labels.Font(VRMLFontFamily::VRML_SANS);
@@ -52,8 +51,8 @@ SliderInfo::SliderInfo()
   m_labelTransform->children.Append(m_labels.Node());
   m_slider->SetDefName("FRAME_SLIDER");
   m_sliderTransform->children.Append(m_slider);
-  m_root->children.Append(m_sliderTransform);
-  m_root->children.Append(m_labelTransform);
+  Root()->children.Append(m_sliderTransform);
+  Root()->children.Append(m_labelTransform);
 }
 
 void SliderInfo::LabelHeight(float height) {
@@ -83,10 +82,12 @@ void SliderInfo::AlignSlider() {
     m_labels.Spacing(Single(Quotient(gap, labelHeight)));
   }
 
-  constexpr double kClearance = 1.2;
   const bool isRight = m_textAlignment == SliderTextAlignment::RIGHT_ALIGN_TEXT;
   m_labels.Alignment(isRight ? LabelAlignment::RIGHT_ALIGN : LabelAlignment::LEFT_ALIGN);
-  m_labelTransform->translation.X(Single(SliderRadius() * (isRight ? -kClearance : kClearance)));
+  const double distance = m_labelPlacement.distance.Of(SliderRadius());
+  m_labelTransform->translation.X(Single(isRight ? -distance : distance));
+  m_labelTransform->translation.Y(Single(m_labelPlacement.lift));
+  ScaleBy(*m_labelTransform, m_labelPlacement.scale);
 
   constexpr float kHalfTurn = 3.14159F;
   if (m_orientation == SliderAlignment::ZERO_AT_TOP) {

@@ -1,5 +1,6 @@
 #include "orvane/graphs/surface/DensityGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/DescribeGridGraph.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
@@ -34,22 +35,19 @@ void DensityGraph::Sigma(float sigma) {
   m_sigma = sigma;
 }
 
-void DensityGraph::AlignXAxis() {
-  Place(*m_xAxis, XAxisPlacement(*m_xAxis, Grid(), LabelsAt::Lines), LabelingOrder::MIN_TO_MAX);
-}
+void DensityGraph::AlignXAxis() { PlaceXAxis(*m_xAxis, Grid(), Placement().xAxis); }
 
-void DensityGraph::AlignZAxis() {
-  Place(*m_zAxis, ZAxisPlacement(*m_zAxis, Grid(), LabelsAt::Lines), LabelingOrder::MIN_TO_MAX);
-}
+void DensityGraph::AlignZAxis() { PlaceZAxis(*m_zAxis, Grid(), Placement().zAxis); }
 
 void DensityGraph::BuildSeries(LegendWiring& legend) {
-  constexpr float kLift = 0.02F;  // Clear of the floor.
-  m_surfaces.LayOut(Contents(), legend, [this](DensitySurfaceInfo& surface) {
+  double lift = m_lift.first;
+  m_surfaces.LayOut(Contents(), legend, [&](DensitySurfaceInfo& surface) {
     surface.CoverCells(Grid().XAxisCellCount(), CellWidth(Grid()), Grid().ZAxisCellCount(),
                        CellDepth(Grid()));
     surface.Sigma(m_sigma);
     surface.GenerateParzenMap(Grid().Height());
-    surface.Root()->translation.Y(kLift);
+    surface.Root()->translation.Y(host::Single(lift));
+    lift += m_lift.step;
   });
 }
 
