@@ -2,6 +2,7 @@
 
 #include "orvane/tables/layout/ChartDress.h"
 #include "orvane/tables/layout/Palette.h"
+#include "orvane/tables/layout/PieLayout.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,7 @@
 #include "orvane/tables/SeriesCharts.h"
 
 #include "orvane/tables/GridChart.h"
+#include "orvane/tables/SeriesShapes.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "orvane/tables/SurfaceCharts.h"
 
 #include "orvane/tables/GridChart.h"
-#include "orvane/tables/SeriesCharts.h"
+#include "orvane/tables/SeriesShapes.h"
 #include "orvane/tables/layout/GridLayout.h"
 
 #include <algorithm>
