@@ -1,6 +1,9 @@
 #include "CommandLine.h"
 
 #include "ChartCommands.h"
+#ifdef ORVANE_STILLS
+#include "ConvertCommand.h"
+#endif
 #include "ModelBuilder.h"
 #include "ProtoLocation.h"
 #include "TypesReference.h"
@@ -86,6 +89,9 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   app.require_subcommand(1);
   AddChartCommands(app, out, err);
   AddBuildCommand(app, out);
+#ifdef ORVANE_STILLS
+  AddConvertCommand(app);
+#endif
   AddProtosCommand(app);
   AddSettingsCommand(app, out);
   AddTypesCommand(app, out);
