@@ -39,11 +39,9 @@ PieSpinAxisInfo::PieSpinAxisInfo()
 
 void PieSpinAxisInfo::UseSpinAxis(bool use) {
   if (use == m_isUsed) return;
+  using List = scene::MFNode::List;
+  m_root->children.Items(use ? List{m_sensor, m_shape} : List());
   m_isUsed = use;
-  m_root->children.Clear();
-  if (!use) return;
-  m_root->children.Append(m_sensor);
-  m_root->children.Append(m_shape);
 }
 
 void PieSpinAxisInfo::radius(float value) {
