@@ -28,12 +28,12 @@ void ChartLegend::KeyStyle(LegendKeyStyle style) {
 
 void ChartLegend::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
-  const auto parts = Contents().Items();
-  Root()->children.Clear();
-  m_billboard->children.Clear();
-  if (isBillboarded) Root()->children.Append(m_billboard);
+  using List = scene::MFNode::List;
+  auto parts = Contents().Items();
+  auto top = isBillboarded ? List{m_billboard} : std::move(parts);
+  Root()->children.Items(std::move(top));
+  m_billboard->children.Items(isBillboarded ? std::move(parts) : List());
   m_isBillboarded = isBillboarded;
-  for (const auto& part : parts) Contents().Append(part);
 }
 
 void ChartLegend::TextHeight(float height) {

@@ -82,7 +82,7 @@ class ORVANE_API MFString final : public ListField<MFString, std::string> {
       : ListField(owner, name, std::move(items), access) {}
 
   using ListField::Item;
-  void Item(std::int32_t index, const std::string& text) { m_items[Position(index)] = text; }
+  void Item(std::int32_t index, std::string text) { m_items[Position(index)] = std::move(text); }
   void Append(const std::string& text) { m_items.push_back(text); }
   /// Puts `text` at position `index`, 1..Count + 1, moving later entries back.
   void Insert(std::int32_t index, const std::string& text);

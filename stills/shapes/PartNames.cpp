@@ -88,7 +88,8 @@ void PartNames::Describe(Part& part, const Node& geometry, const Node* appearanc
   }
   const auto key = m_legend.find(appearance);
   const bool isKey = owner && owner->instance->Find("keyAppearances") >= 0;
-  if (isKey && part.kind == PartKind::Faces && key != m_legend.end()) part.name += " " + key->second;
+  if (isKey && part.kind == PartKind::Faces && key != m_legend.end())
+    part.name += " " + key->second;
   if (part.name.empty()) part.name = "Shape";
   const int count = ++m_used[part.name];
   if (count > 1) part.name += " " + std::to_string(count);

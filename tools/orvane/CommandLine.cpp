@@ -110,7 +110,9 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   } catch (const tables::FileError& error) {
     err << error.what() << "\n";
   } catch (const host::AutomationError& error) {
-    err << "orvane: " << error.Description() << "\n";
+    // What is wrong with a file begins with its name.
+    const bool isOfFile = error.Number() == host::ErrorNumber::FileAccess;
+    err << (isOfFile ? "" : "orvane: ") << error.Description() << "\n";
   } catch (const std::system_error& error) {
     err << "orvane: " << error.what() << "\n";
   }

@@ -93,9 +93,9 @@ void PieGraph::SliceCount(std::int16_t count) {
 
 void PieGraph::UseDrillUp(bool use) {
   if (use == m_usesDrillUp) return;
-  m_usesDrillUp = use;
   m_drillUpHolder->children.Clear();
   if (use) m_drillUpHolder->children.Append(m_drillUp->RootNode());
+  m_usesDrillUp = use;
 }
 
 void PieGraph::Arrange() {

@@ -155,9 +155,9 @@ void PieSliceInfo::Style(SliceStyle style) {
 
 void PieSliceInfo::UseDrillDown(bool use) {
   if (use == m_usesDrillDown) return;
-  m_usesDrillDown = use;
   m_drillDownTransform->children.Clear();
   if (use) m_drillDownTransform->children.Append(m_drillDown->RootNode());
+  m_usesDrillDown = use;
 }
 
 std::shared_ptr<scene::Node> PieSliceInfo::ShapeOf(SliceStyle style) const {

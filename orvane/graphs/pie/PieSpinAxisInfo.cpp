@@ -38,11 +38,9 @@ PieSpinAxisInfo::PieSpinAxisInfo()
 
 void PieSpinAxisInfo::UseSpinAxis(bool use) {
   if (use == m_isUsed) return;
+  using List = scene::MFNode::List;
+  Root()->children.Items(use ? List{m_sensor, m_shape} : List());
   m_isUsed = use;
-  Root()->children.Clear();
-  if (!use) return;
-  Root()->children.Append(m_sensor);
-  Root()->children.Append(m_shape);
 }
 
 void PieSpinAxisInfo::radius(float value) {

@@ -43,10 +43,18 @@ void PointCollection::AddPoint(float x, float y, float z, float radius, std::int
   const float finiteRadius = host::Single(radius);
   scene::SFColor components;
   components.Value(color);
-  m_spheres->locations.Append(x, y, z);  // The last step that may raise.
-  m_spheres->radii.Append(finiteRadius);
-  m_spheres->colors.Append(components.Red(), components.Green(), components.Blue());
-  m_spheres->transparencies.Append(transparency);
+  const auto count = m_spheres->locations.Count();
+  try {
+    m_spheres->locations.Append(x, y, z);
+    m_spheres->radii.Append(finiteRadius);
+    m_spheres->colors.Append(components.Red(), components.Green(), components.Blue());
+    m_spheres->transparencies.Append(transparency);
+  } catch (...) {
+    if (m_spheres->locations.Count() > count) m_spheres->locations.RemoveAt(count + 1);
+    if (m_spheres->radii.Count() > count) m_spheres->radii.RemoveAt(count + 1);
+    if (m_spheres->colors.Count() > count) m_spheres->colors.RemoveAt(count + 1);
+    throw;
+  }
 }
 
 void PointCollection::RemovePoint(std::int16_t index) {

@@ -57,8 +57,9 @@ void SurfaceInfo::Set1HeightPoint(std::int16_t xIndex, std::int16_t zIndex, floa
   require(xIndex, XCount(), "X");
   require(zIndex, ZCount(), "Z");
   const std::int32_t point = (zIndex - 1) * XCount() + xIndex;
+  std::string text = PopupText;
   Height(point, newHeight);
-  m_popups->PopupSurfaceNode()->popupText.Item(point, PopupText);
+  m_popups->PopupSurfaceNode()->popupText.Item(point, std::move(text));
 }
 
 void SurfaceInfo::StandInCells(float cellWidth, float cellDepth) {
