@@ -2,6 +2,7 @@
 #include "support/Tables.h"
 
 #include "orvane/tables/PieChart.h"
+#include "orvane/tables/layout/PieLayout.h"
 #include "orvane/tables/layout/Texts.h"
 
 #include <cmath>

@@ -1,11 +1,10 @@
 #include "ConvertCommand.h"
 
-#include "Output.h"
-#include "ProtoFiles.h"
 #include "stills/Still.h"
 #include "stills/output/Model.h"
 #include "stills/output/Picture.h"
 
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/tables/read/Source.h"
 
 #include <algorithm>
@@ -72,7 +71,7 @@ void Convert(const Conversion& choice) {
     stills::Options options;
     options.library = ProtoText;
     stills::World world = stills::World::Read(choice.world, options);
-    WriteFiles({{choice.output, format.bytes(world, choice)}});
+    host::WriteFiles({{choice.output, format.bytes(world, choice)}}, {choice.world});
   } catch (const stills::Error& error) {
     throw tables::FileError(error.what());
   }
