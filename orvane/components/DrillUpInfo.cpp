@@ -9,20 +9,20 @@ namespace orvane {
 const host::TypeInfo& DrillUpInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<DrillUpInfo>("A clickable cone that loads another world.")
-          .Property<std::int32_t>("ConeColor", &DrillUpInfo::ConeColor, &DrillUpInfo::ConeColor,
-                                  {"Colour of the cone", "host RGB", "0..16777215", "11237420"})
+          .Color("ConeColor", &DrillUpInfo::ConeColor, &DrillUpInfo::ConeColor,
+                 {"Colour of the cone"})
           .Property<float>("ConeRadius", &DrillUpInfo::ConeRadius, &DrillUpInfo::ConeRadius,
-                           {"Bottom radius of the cone", "scene units", "> 0", "0.5"})
+                           {"Bottom radius of the cone", "scene units", host::kPositive})
           .Property<float>("ConeHeight", &DrillUpInfo::ConeHeight, &DrillUpInfo::ConeHeight,
-                           {"Height of the cone", "scene units", "> 0", "1"})
+                           {"Height of the cone", "scene units", host::kPositive})
           .Property<float>("ConeTransparency", &DrillUpInfo::ConeTransparency,
                            &DrillUpInfo::ConeTransparency,
-                           {"Transparency of the cone", "", "0..1", "0"})
+                           {"Transparency of the cone", "", host::kUnit})
           .Property<std::string>("URL", &DrillUpInfo::URL, &DrillUpInfo::URL,
-                                 {"World to load when the cone is clicked", "", "", "\"\""})
+                                 {"World to load when the cone is clicked"})
           .Property<std::string>("Description", &DrillUpInfo::Description,
                                  &DrillUpInfo::Description,
-                                 {"Shown while the pointer is over the cone", "", "", "\"\""});
+                                 {"Shown while the pointer is over the cone"});
   return type;
 }
 

@@ -12,15 +12,15 @@ const host::TypeInfo& GridInteractivityInfo::Type() const {
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Info::DrillUpProps,
                                                   {"The drill-up cone"})
           .Property<bool>("UseDrillUp", &Info::UseDrillUp, &Info::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillDownInfo>>(
               "XAxisDrillDownProps", &Info::XAxisDrillDownProps, {"The cones along the X axis"})
           .Property<std::shared_ptr<DrillDownInfo>>(
               "ZAxisDrillDownProps", &Info::ZAxisDrillDownProps, {"The cones along the Z axis"})
           .Property<bool>("UseXAxisDrillDown", &Info::UseXAxisDrillDown, &Info::UseXAxisDrillDown,
-                          {"Whether the X cones are in the scene", "", "", "false"})
+                          {"Whether the X cones are in the scene"})
           .Property<bool>("UseZAxisDrillDown", &Info::UseZAxisDrillDown, &Info::UseZAxisDrillDown,
-                          {"Whether the Z cones are in the scene", "", "", "false"});
+                          {"Whether the Z cones are in the scene"});
   return type;
 }
 

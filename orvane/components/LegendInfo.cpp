@@ -20,7 +20,7 @@ const host::TypeInfo& LegendInfo::Type() const {
           .With(DescribeLegend<LegendInfo>)
           .Property<bool>("UseSeriesToggle", &LegendInfo::UseSeriesToggle,
                           &LegendInfo::UseSeriesToggle,
-                          {"Whether check boxes switch series on and off", "", "", "false"});
+                          {"Whether check boxes switch series on and off"});
   return type;
 }
 

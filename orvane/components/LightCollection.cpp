@@ -10,13 +10,13 @@ const host::TypeInfo& LightCollection::Type() const {
   using Collection = LightCollection;
   static const host::TypeInfo type =
       host::Describe<Collection>("The lights of a chart's world.")
-          .Method("GetLightSource", &Collection::GetLightSource, {"Index"},
-                  {"One light", "", "1..Count"})
+          .Method("GetLightSource", &Collection::GetLightSource, {{"Index", host::UpTo("Count")}},
+                  {"One light"})
           .Method("AddLightSource", &Collection::AddLightSource, {}, {"Adds a point light"})
           .Method("ClearLightSources", &Collection::ClearLightSources, {}, {"Removes all lights"})
-          .Property<std::int16_t>("Count", &Collection::Count, {"Number of lights", "", "", "0"})
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of lights"})
           .Property<bool>("UseHeadlight", &Collection::UseHeadlight, &Collection::UseHeadlight,
-                          {"Whether the viewer carries a light", "", "", "true"});
+                          {"Whether the viewer carries a light"});
   return type;
 }
 

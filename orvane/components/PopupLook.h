@@ -53,18 +53,14 @@ class PopupLook : public host::Object, public RootedAt<scene::Transform> {
 /// TextColor, BackgroundColor, BorderColor, TextHeight and UsePopups.
 template <class Info>
 void DescribePopupLook(host::Describe<Info>& info) {
-  info.template Property<std::int32_t>("TextColor", &Info::TextColor, &Info::TextColor,
-                                       {"Colour of the texts", "host RGB", "0..16777215", "0"})
-      .template Property<std::int32_t>(
-          "BackgroundColor", &Info::BackgroundColor, &Info::BackgroundColor,
-          {"Colour behind the texts", "host RGB", "0..16777215", "14745599"})
-      .template Property<std::int32_t>(
-          "BorderColor", &Info::BorderColor, &Info::BorderColor,
-          {"Colour of the frame", "host RGB", "0..16777215", "3355443"})
+  info.Color("TextColor", &Info::TextColor, &Info::TextColor, {"Colour of the texts"})
+      .Color("BackgroundColor", &Info::BackgroundColor, &Info::BackgroundColor,
+             {"Colour behind the texts"})
+      .Color("BorderColor", &Info::BorderColor, &Info::BorderColor, {"Colour of the frame"})
       .template Property<float>("TextHeight", &Info::TextHeight, &Info::TextHeight,
-                                {"Height of the texts", "scene units", "> 0", "0.5"})
+                                {"Height of the texts", "scene units", host::kPositive})
       .template Property<bool>("UsePopups", &Info::UsePopups, &Info::UsePopups,
-                               {"Whether texts pop up", "", "", "false"});
+                               {"Whether texts pop up"});
 }
 
 }  // namespace orvane

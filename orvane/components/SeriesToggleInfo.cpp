@@ -16,17 +16,16 @@ using host::Single;
 const host::TypeInfo& SeriesToggleInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<SeriesToggleInfo>("A column of check boxes, one a legend entry.")
-          .Method("Get1CheckBox", &SeriesToggleInfo::Get1CheckBox, {"Index"},
-                  {"One check box", "", "1..Count"})
+          .Method("Get1CheckBox", &SeriesToggleInfo::Get1CheckBox, {{"Index", host::UpTo("Count")}},
+                  {"One check box"})
           .Method("AddCheckBox", &SeriesToggleInfo::AddCheckBox, {}, {"Adds a check box"})
           .Property<float>("Spacing", &SeriesToggleInfo::Spacing, &SeriesToggleInfo::Spacing,
-                           {"Gap between boxes", "scene units", "> 0", "0.5"})
+                           {"Gap between boxes", "scene units", host::kPositive})
           .Property<float>("Height", &SeriesToggleInfo::Height, &SeriesToggleInfo::Height,
-                           {"Size of each box", "scene units", "> 0", "1"})
+                           {"Size of each box", "scene units", host::kPositive})
           .Method("ClearCheckBoxes", &SeriesToggleInfo::ClearCheckBoxes, {},
                   {"Removes all check boxes"})
-          .Property<std::int16_t>("Count", &SeriesToggleInfo::Count,
-                                  {"Number of check boxes", "", "", "0"});
+          .Property<std::int16_t>("Count", &SeriesToggleInfo::Count, {"Number of check boxes"});
   return type;
 }
 

@@ -10,12 +10,11 @@ const host::TypeInfo& ViewpointCollection::Type() const {
   using Collection = ViewpointCollection;
   static const host::TypeInfo type =
       host::Describe<Collection>("The places from which a viewer can look at a chart.")
-          .Method("GetViewpoint", &Collection::GetViewpoint, {"Index"},
-                  {"One viewpoint", "", "1..Count"})
+          .Method("GetViewpoint", &Collection::GetViewpoint, {{"Index", host::UpTo("Count")}},
+                  {"One viewpoint"})
           .Method("AddViewpoint", &Collection::AddViewpoint, {}, {"Adds a viewpoint"})
           .Method("ClearViewpoints", &Collection::ClearViewpoints, {}, {"Removes all viewpoints"})
-          .Property<std::int16_t>("Count", &Collection::Count,
-                                  {"Number of viewpoints", "", "", "0"});
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of viewpoints"});
   return type;
 }
 

@@ -41,6 +41,8 @@ using namespace orvane;  // NOLINT(google-build-using-namespace): C names are gl
 
 extern "C" {
 
+ORVANE_API uint32_t OrvaneComponentVersion() { return 2; }
+
 ORVANE_API orvane_status DllGetClassObject(const char* class_id, orvane_class** object,
                                            orvane_error* error) {
   return host::Guarded(error, [&] {

@@ -102,6 +102,8 @@ class ORVANE_API MFFloat final : public ListField<MFFloat, float> {
   void Item(std::int32_t index, float value) { m_items[Position(index)] = Checked(value, m_range); }
   void Append(float value) { m_items.push_back(Checked(value, m_range)); }
 
+  Interval Range() const override { return m_range; }
+
  private:
   void Check(const List& items) const override;
 

@@ -1,5 +1,6 @@
 #include "orvane/tables/GridChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/control/OrvaneScaler.h"
 #include "orvane/tables/layout/GridDress.h"
 #include "orvane/tables/layout/Palette.h"
@@ -9,13 +10,14 @@
 #include <string>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
 
 constexpr HostColor kWhite = 0xFFFFFF;
-
-float Single(double value) { return static_cast<float>(value); }
 
 void DressCells(GridInfo& grid, const GridLayout& layout, const Style& style) {
   DressGrid(grid, layout, std::min(layout.CellWidth(), layout.CellDepth()), style);

@@ -1,5 +1,6 @@
 #include "orvane/tables/PieChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/tables/layout/ChartDress.h"
 #include "orvane/tables/layout/Palette.h"
 #include "orvane/tables/layout/PieLayout.h"
@@ -9,11 +10,12 @@
 #include <cstdint>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
-
-float Single(double value) { return static_cast<float>(value); }
 
 SliceStyle StyleOf(ShapeStyle style) {
   switch (style) {

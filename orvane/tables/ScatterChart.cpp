@@ -1,5 +1,6 @@
 #include "orvane/tables/ScatterChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/scene/SensorNodes.h"
 #include "orvane/scene/frmMain.h"
 #include "orvane/tables/layout/GridDress.h"
@@ -16,6 +17,9 @@
 #include <vector>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
@@ -23,8 +27,6 @@ using std::int16_t;
 /// Labels of a slider begin this far from its middle, in scene units: a little farther than a chart
 /// puts them, so that the knob does not hide their ends.
 constexpr double kLabelClearance = 0.4;
-
-float Single(double value) { return static_cast<float>(value); }
 
 bool IsAnimated(const PointTable& table, const ChartOptions& options) {
   return table.frames.size() > 1 && options.animation == AnimationStyle::VRML_ANALOG;

@@ -23,7 +23,7 @@ from pathlib import Path
 
 from . import _charts, _classes
 from ._charts import chart, chart_kinds
-from ._classes import Object
+from ._classes import Event, Object
 from ._orvane import AutomationError, UnknownMember
 from ._orvane import version as __version__
 from ._orvane import write_protos as _write_protos
@@ -53,6 +53,7 @@ for _class in _model.values():
 globals().update(_model)
 __all__ = [
     "AutomationError",
+    "Event",
     "Object",
     "UnknownMember",
     "WriteProtos",

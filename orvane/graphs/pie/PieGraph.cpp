@@ -20,22 +20,23 @@ const host::TypeInfo& PieGraph::Type() const {
                                                      {"The sky"})
           .Property<std::shared_ptr<TextInfo>>("TitleProps", &Graph::TitleProps, {"The title"})
           .Property<std::shared_ptr<LegendInfo>>("LegendProps", &Graph::LegendProps, {"The legend"})
-          .Method("GetSlice", &Graph::GetSlice, {"Index"}, {"One slice", "", "1..SliceCount"})
+          .Method("GetSlice", &Graph::GetSlice, {{"Index", host::UpTo("SliceCount")}},
+                  {"One slice"})
           .Property<float>("radius", &Graph::radius, &Graph::radius,
-                           {"Radius of all slices", "scene units", "> 0", "3"})
+                           {"Radius of all slices", "scene units", host::kPositive})
           .Property<float>("InnerRadius", &Graph::InnerRadius, &Graph::InnerRadius,
-                           {"Inner radius of all ring slices", "scene units", "> 0", "1.5"})
+                           {"Inner radius of all ring slices", "scene units", host::kPositive})
           .Property<float>("BevelRadius", &Graph::BevelRadius, &Graph::BevelRadius,
-                           {"Rounding of the edges when rounded", "scene units", "> 0", "0.2"})
-          .Property<SliceTextVisibility>(
-              "SliceTextDisplayStyle", &Graph::SliceTextDisplayStyle, &Graph::SliceTextDisplayStyle,
-              {"When the texts of the slices are shown", "", "", "SHOW_ON_TOUCH"})
+                           {"Rounding of the edges when rounded", "scene units", host::kPositive})
+          .Property<SliceTextVisibility>("SliceTextDisplayStyle", &Graph::SliceTextDisplayStyle,
+                                         &Graph::SliceTextDisplayStyle,
+                                         {"When the texts of the slices are shown"})
           .Property<std::int16_t>("SliceCount", &Graph::SliceCount, &Graph::SliceCount,
-                                  {"Number of slices", "", ">= 0", "0"})
+                                  {"Number of slices", "", host::kNotNegative})
           .Property<bool>("UseSpinAxis", &Graph::UseSpinAxis, &Graph::UseSpinAxis,
-                          {"Whether an axis turns the pie", "", "", "false"})
+                          {"Whether an axis turns the pie"})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether a cone above the pie loads another world", "", "", "false"})
+                          {"Whether a cone above the pie loads another world"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The cone above the pie"})
           .With(DescribeViews<Graph>)

@@ -34,23 +34,22 @@ const host::TypeInfo& PieSliceInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Slice>("One slice of a pie.")
           .Property<float>("Percentage", &Slice::Percentage, &Slice::Percentage,
-                           {"Share of the full turn", "", "0..1", "0.2"})
+                           {"Share of the full turn", "", host::kUnit})
           .Property<float>("Height", &Slice::Height, &Slice::Height,
-                           {"Extent along Y", "scene units", "> 0", "1"})
+                           {"Extent along Y", "scene units", host::kPositive})
           .Property<std::shared_ptr<scene::Material>>("Material", &Slice::Material,
                                                       {"Colours and transparency of the slice"})
           .Property<std::string>("LegendText", &Slice::LegendText, &Slice::LegendText,
-                                 {"Text of the legend entry", "", "", "\"\""})
-          .Property<SliceStyle>("Style", &Slice::Style, &Slice::Style,
-                                {"Shape of the slice", "", "", "OUTLINED_SLICE"})
+                                 {"Text of the legend entry"})
+          .Property<SliceStyle>("Style", &Slice::Style, &Slice::Style, {"Shape of the slice"})
           .Property<std::shared_ptr<TextInfo>>("SliceTextProps", &Slice::SliceTextProps,
                                                {"The text above the rim"})
           .Property<bool>("UseDrillDown", &Slice::UseDrillDown, &Slice::UseDrillDown,
-                          {"Whether a cone on the rim loads another world", "", "", "false"})
+                          {"Whether a cone on the rim loads another world"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillDownProps", &Slice::DrillDownProps,
                                                   {"The cone on the rim"})
           .Property<bool>("ShowInLegend", &Slice::ShowInLegend, &Slice::ShowInLegend,
-                          {"Whether the slice has a legend entry and a toggle", "", "", "true"});
+                          {"Whether the slice has a legend entry and a toggle"});
   return type;
 }
 

@@ -11,13 +11,12 @@ const host::TypeInfo& PieSpinAxisInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Axis>("The axis by which a viewer turns a pie.")
           .Property<bool>("UseSpinAxis", &Axis::UseSpinAxis, &Axis::UseSpinAxis,
-                          {"Whether there is an axis", "", "", "false"})
+                          {"Whether there is an axis"})
           .Property<float>("radius", &Axis::radius, &Axis::radius,
-                           {"Radius of the axis", "scene units", "> 0", "0.1"})
+                           {"Radius of the axis", "scene units", host::kPositive})
           .Property<float>("Height", &Axis::Height, &Axis::Height,
-                           {"Height of the axis", "scene units", "> 0", "2"})
-          .Property<std::int32_t>("Color", &Axis::Color, &Axis::Color,
-                                  {"Colour of the axis", "host RGB", "0..16777215", "16777215"})
+                           {"Height of the axis", "scene units", host::kPositive})
+          .Color("Color", &Axis::Color, &Axis::Color, {"Colour of the axis"})
           .Property<std::shared_ptr<scene::Node>>("CylinderSensorNode", &Axis::CylinderSensorNode,
                                                   {"The sensor that reports the turn"});
   return type;

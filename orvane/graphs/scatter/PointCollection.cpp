@@ -11,19 +11,29 @@ const host::TypeInfo& PointCollection::Type() const {
   using Points = PointCollection;
   static const host::TypeInfo type =
       host::Describe<Points>("A set of coloured spheres: one point frame of a scatter chart.")
-          .Method("AddPoint", &Points::AddPoint, {"x", "y", "z", "radius", "Color", "Transparency"},
-                  {"Adds a sphere; lengths are in scene units, Color is host RGB", "",
-                   "radius >= 0, Color 0..16777215, Transparency 0..1"})
-          .Method("RemovePoint", &Points::RemovePoint, {"Index"},
-                  {"Removes one point", "", "1..Count"})
+          .Method("AddPoint", &Points::AddPoint,
+                  {"x",
+                   "y",
+                   "z",
+                   {"radius", host::kNotNegative},
+                   host::Parameter::Color("Color"),
+                   {"Transparency", host::kUnit}},
+                  {"Adds a sphere; lengths are in scene units"})
+          .Method("RemovePoint", &Points::RemovePoint, {{"Index", host::UpTo("Count")}},
+                  {"Removes one point"})
           .Method("Get1Point", &Points::Get1Point,
-                  {"Index", "x", "y", "z", "radius", "Color", "Transparency"},
-                  {"What one point was added with", "", "1..Count"})
+                  {{"Index", host::UpTo("Count")},
+                   "x",
+                   "y",
+                   "z",
+                   "radius",
+                   host::Parameter::Color("Color"),
+                   "Transparency"},
+                  {"What one point was added with"})
           .Method("ClearPoints", &Points::ClearPoints, {}, {"Removes all points"})
-          .Property<std::int16_t>("Count", &Points::Count,
-                                  {"Number of points, up to 32767", "", "", "0"})
+          .Property<std::int16_t>("Count", &Points::Count, {"Number of points, up to 32767"})
           .Property<std::string>("Description", &Points::Description, &Points::Description,
-                                 {"The frame's name, a label of the slider", "", "", "\"\""})
+                                 {"The frame's name, a label of the slider"})
           .Property<std::shared_ptr<scene::Node>>("SphereCollectionNode",
                                                   &Points::SphereCollectionNode,
                                                   {"The node that holds the points"});

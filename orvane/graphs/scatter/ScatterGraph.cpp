@@ -44,23 +44,22 @@ const host::TypeInfo& ScatterGraph::Type() const {
                                                      {"The axis along Z"})
           .Property<std::shared_ptr<ScatterLegendInfo>>("LegendProps", &Graph::LegendProps,
                                                         {"The legend"})
-          .Method("Get1PointFrame", &Graph::Get1PointFrame, {"Index"},
-                  {"One point frame", "", "1..PointFrameCount"})
+          .Method("Get1PointFrame", &Graph::Get1PointFrame,
+                  {{"Index", host::UpTo("PointFrameCount")}}, {"One point frame"})
           .Property<std::int16_t>(
               "PointFrameCount", &Graph::PointFrameCount, &Graph::PointFrameCount,
-              {"Number of point frames; a let adds empty ones or removes trailing ones", "", ">= 1",
-               "0"})
+              {"Number of point frames; a let adds empty ones or removes trailing ones", "",
+               host::kAtLeastOne})
           .Property<double>("FrameTimeGap", &Graph::FrameTimeGap, &Graph::FrameTimeGap,
-                            {"Time from one frame to the next", "seconds", ">= 1, finite", "1"})
-          .Property<LoopStyle>(
-              "AnimationLoopStyle", &Graph::AnimationLoopStyle, &Graph::AnimationLoopStyle,
-              {"What an animation does after the last frame", "", "", "VRML_NO_LOOP"})
+                            {"Time from one frame to the next", "seconds", host::kAtLeastOne})
+          .Property<LoopStyle>("AnimationLoopStyle", &Graph::AnimationLoopStyle,
+                               &Graph::AnimationLoopStyle,
+                               {"What an animation does after the last frame"})
           .Property<AnimationStyle>(
               "PointAnimationStyle", &Graph::PointAnimationStyle, &Graph::PointAnimationStyle,
-              {"Whether points move from frame to frame, or a slider picks the frame", "", "",
-               "VRML_ANALOG"})
+              {"Whether points move from frame to frame, or a slider picks the frame"})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The drill-up cone"})
           .With(DescribeViews<Graph>)

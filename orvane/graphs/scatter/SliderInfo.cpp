@@ -17,24 +17,21 @@ const host::TypeInfo& SliderInfo::Type() const {
           .Property<scene::MFString>("Labels", &Info::Labels,
                                      {"The labels, from the top down; a live list"})
           .Property<float>("LabelHeight", &Info::LabelHeight, &Info::LabelHeight,
-                           {"Height of a label", "scene units", "> 0", "1"})
-          .Property<std::int32_t>("LabelColor", &Info::LabelColor, &Info::LabelColor,
-                                  {"Colour of the labels", "host RGB", "0..16777215", "16777215"})
+                           {"Height of a label", "scene units", host::kPositive})
+          .Color("LabelColor", &Info::LabelColor, &Info::LabelColor, {"Colour of the labels"})
           .Property<float>("SliderLength", &Info::SliderLength, &Info::SliderLength,
-                           {"Length of the bar", "scene units", "> 0", "4"})
+                           {"Length of the bar", "scene units", host::kPositive})
           .Property<std::int16_t>("SliderMin", &Info::SliderMin, &Info::SliderMin,
-                                  {"Value at one end", "", "", "0"})
+                                  {"Value at one end"})
           .Property<std::int16_t>("SliderMax", &Info::SliderMax, &Info::SliderMax,
-                                  {"Value at the other end", "", "", "10"})
+                                  {"Value at the other end"})
           .Property<float>("SliderRadius", &Info::SliderRadius, &Info::SliderRadius,
-                           {"Radius of the knob", "scene units", "> 0", "0.2"})
+                           {"Radius of the knob", "scene units", host::kPositive})
           .Property<SliderTextAlignment>(
               "TextAlignment", &Info::TextAlignment, &Info::TextAlignment,
-              {"Alignment of the labels, on the side of the bar that they extend to", "", "",
-               "LEFT_ALIGN_TEXT"})
+              {"Alignment of the labels, on the side of the bar that they extend to"})
           .Property<SliderAlignment>("SliderOrientation", &Info::SliderOrientation,
-                                     &Info::SliderOrientation,
-                                     {"The end at which SliderMin is", "", "", "ZERO_AT_BOTTOM"})
+                                     &Info::SliderOrientation, {"The end at which SliderMin is"})
           .Method("AlignSlider", &Info::AlignSlider, {},
                   {"Lays labels and slider out by the other properties"})
           .Property<std::shared_ptr<scene::Node>>("SliderNode", &Info::SliderNode,

@@ -13,10 +13,11 @@ const host::TypeInfo& DensityGraph::Type() const {
       host::Describe<Graph>("Where points lie thickly on the floor of a three-axis grid.")
           .With(DescribeComponents<Graph>)
           .With(DescribeSurfaces<Graph>)
-          .Property<float>("Sigma", &Graph::Sigma, &Graph::Sigma,
-                           {"Width of the kernel around each point", "scene units", "> 0", "0.8"})
+          .Property<float>(
+              "Sigma", &Graph::Sigma, &Graph::Sigma,
+              {"Width of the kernel around each point", "scene units", host::kPositive})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The drill-up cone"})
           .With(DescribeViews<Graph>)

@@ -15,10 +15,13 @@ const host::TypeInfo& SurfaceInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Info>("One surface of a surface or combination chart.")
           .With(DescribeMaterial<Info>)
-          .Method("Set1HeightPoint", &Info::Set1HeightPoint,
-                  {"xIndex", "zIndex", "newHeight", "PopupText"},
-                  {"Height and popup text of the point over one cell; the height is in scene units",
-                   "", "1..X cells, 1..Z cells"})
+          .Method(
+              "Set1HeightPoint", &Info::Set1HeightPoint,
+              {{"xIndex", host::UpTo("X cells")},
+               {"zIndex", host::UpTo("Z cells")},
+               "newHeight",
+               "PopupText"},
+              {"Height and popup text of the point over one cell; the height is in scene units"})
           .With(DescribeLegendText<Info>)
           .With(DescribeWireColor<Info>)
           .Property<std::shared_ptr<SurfacePopupInfo>>("PopupProps", &Info::PopupProps,

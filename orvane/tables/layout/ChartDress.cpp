@@ -1,14 +1,12 @@
 #include "orvane/tables/layout/ChartDress.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/ViewNodes.h"
 
 namespace orvane::tables {
-namespace {
 
-float Single(double value) { return static_cast<float>(value); }
-
-}  // namespace
+using host::Single;
 
 Style::Style(HostColor background) {
   const bool isLight = Contrast(background, kDarkInk) > Contrast(background, kLightInk);

@@ -1,13 +1,16 @@
 #include "orvane/tables/layout/GridDress.h"
 
+#include "orvane/automation/Arithmetic.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 
 namespace orvane::tables {
-namespace {
 
-float Single(double value) { return static_cast<float>(value); }
+using host::Single;
+
+namespace {
 
 }  // namespace
 

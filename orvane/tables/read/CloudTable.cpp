@@ -18,7 +18,7 @@ CloudTable ReadCloudTable(const Source& source) {
   while (reader.Next(row)) {
     const double x = ReadNumber(row[0], source);
     const double z = ReadNumber(row[1], source);
-    const std::string name(columnCount == 3 ? Trimmed(row[2].text) : "");
+    const std::string name(columnCount == 3 ? WithoutBlanks(row[2].text) : "");
     const auto [place, isNew] = places.try_emplace(name, table.clouds.size());
     if (isNew) {
       if (table.clouds.size() == kMostClouds) {

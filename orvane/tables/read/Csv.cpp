@@ -65,7 +65,7 @@ std::string CsvReader::ReadQuoted() {
   return text;
 }
 
-std::string_view Trimmed(std::string_view text) {
+std::string_view WithoutBlanks(std::string_view text) {
   constexpr std::string_view kBlanks = " \t";
   const std::size_t first = text.find_first_not_of(kBlanks);
   if (first == std::string_view::npos) return {};
@@ -73,7 +73,7 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 double ReadNumber(const CsvCell& cell, const Source& source) {
-  const std::string_view text = Trimmed(cell.text);
+  const std::string_view text = WithoutBlanks(cell.text);
   if (text.empty()) source.Fail(cell.offset, "empty cell");
   const std::string quoted = '"' + std::string(text) + '"';
   std::string_view digits = text;

@@ -49,8 +49,8 @@ class CsvReader {
   std::size_t m_columnCount = 0;
 };
 
-/// `text` without the blanks around it.
-std::string_view Trimmed(std::string_view text);
+/// `text` without the spaces and tabs around it.
+std::string_view WithoutBlanks(std::string_view text);
 
 /// The number in `cell`: decimal, finite, with "." and an optional exponent, blanks around it
 /// ignored. Raises FileError.

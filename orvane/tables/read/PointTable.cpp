@@ -38,9 +38,9 @@ Columns ReadColumns(CsvReader& reader, const Source& source) {
   const auto header = reader.ReadHeader();
   Columns columns;
   for (std::size_t i = 0; i < header.size(); ++i) {
-    const std::string_view text = Trimmed(header[i].text);
+    const std::string_view text = WithoutBlanks(header[i].text);
     const std::size_t colon = text.find(':');
-    const auto role = RoleNamed(Trimmed(text.substr(0, colon)));
+    const auto role = RoleNamed(WithoutBlanks(text.substr(0, colon)));
     if (!role) continue;
     if (columns.places[*role]) {
       source.Fail(header[i].offset, "column " + std::to_string(*columns.places[*role] + 1) +
@@ -48,7 +48,8 @@ Columns ReadColumns(CsvReader& reader, const Source& source) {
                                         " column");
     }
     columns.places[*role] = i;
-    const auto said = colon == std::string_view::npos ? text : Trimmed(text.substr(colon + 1));
+    const auto said =
+        colon == std::string_view::npos ? text : WithoutBlanks(text.substr(colon + 1));
     columns.headers[*role] = said;
   }
   for (const Role role : {kX, kY, kZ}) {
@@ -84,7 +85,7 @@ PointRow ReadPoint(const std::vector<CsvCell>& row, const Columns& columns, cons
     if (point.size < 0) source.Fail(cell->offset, "a size is 0 or more");
   }
   if (const auto* cell = columns.In(row, kColor)) {
-    point.color = ParseColor(Trimmed(cell->text));
+    point.color = ParseColor(WithoutBlanks(cell->text));
     if (!point.color) source.Fail(cell->offset, '"' + cell->text + "\" is not a colour (#rrggbb)");
   }
   return point;

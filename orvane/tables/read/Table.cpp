@@ -13,7 +13,7 @@ namespace orvane::tables {
 namespace {
 
 TableCell ReadCell(const CsvCell& cell, MissingCell missing, const Source& source) {
-  const std::string_view text = Trimmed(cell.text);
+  const std::string_view text = WithoutBlanks(cell.text);
   if (text.empty()) {
     if (missing == MissingCell::Zero) return {0, "0", cell.offset};
     source.Fail(cell.offset, "empty cell (--missing zero reads it as 0)");
