@@ -2,7 +2,7 @@
 
 /* Up to so many values the strip follows each, beyond it has so many steps. */
 var FEW = 48, STEPS = 32;
-var overStrip = false, overPanel = false, pointed = -1, shown = -1;
+var overStrip = false, overPanel = false, laidOut = -1;
 
 function initialize() { draw(); }
 
@@ -41,8 +41,8 @@ function set_panelHit(point, time) {
 /* Not before: the pointer leaves the strip and comes upon the panel at one and the same time. */
 function eventsProcessed() {
   if (!overStrip && !overPanel) pointed = -1;
-  if (pointed == shown) return;
-  shown = pointed;
+  if (pointed == laidOut) return;
+  laidOut = pointed;
   layOut();
 }
 
@@ -82,7 +82,7 @@ function valueAt(x) {
    box; those between the strip's front and back are tried as the line passes them. */
 function valueBehind(point) {
   var eye = viewer.position_changed, middle = store.maxAngle / 2.1;
-  var way = point.subtract(eye), inside = new Array(-0.02, 1e6);
+  var way = point.subtract(eye), inside = new Array(0, 1e6);
   cut(inside, point.z - middle, way.z, -0.501 * store.maxAngle, 0.501 * store.maxAngle);
   if (inside[0] > inside[1]) return -1;
   var i = valueAt(point.x + inside[0] * way.x), last = valueAt(point.x + inside[1] * way.x);

@@ -1,6 +1,6 @@
 // Shows the panel of qm4_PopupSurface at the lattice point that the pointer is nearest to.
 
-var over = false, overPanel = false, pointed = -1, hit = null;
+var over = false, overPanel = false, hit = null;
 
 function set_over(value, time) { over = value; }
 

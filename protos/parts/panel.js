@@ -1,7 +1,7 @@
 // A popup's panel: made when it is first shown, it faces the viewer and is laid out in units of a line of
 // its text.
 
-var panel = null, frame = null, panelText = '';
+var panel = null, frame = null, panelText = '', openFor = -1;
 
 /* The text of the value that is pointed to, or an empty one. */
 function text() {
@@ -28,15 +28,23 @@ function showPanel(place, shift, height) {
   panel.choice[0].translation = place;
   frame.translation = shift;
   frame.scale = new SFVec3f(height, height, height);
+  if (openFor == pointed && panelText == text()) return;
   if (panelText != text()) {
     panelText = text();
     frame.children[0].geometry.coord.point = rectangles(halfWidth(), halfHeight(), 0.08);
     frame.children[2].children[0].geometry.string = strings(lines());
   }
   panel.whichChoice = 0;
+  openFor = pointed;
+  shown = pointed;
 }
 
-function hidePanel() { if (panel != null) panel.whichChoice = -1; }
+function hidePanel() {
+  if (openFor < 0) return;
+  panel.whichChoice = -1;
+  openFor = -1;
+  shown = -1;
+}
 
 /* The panel's face, its border and its text. */
 function makePanel() {
