@@ -2,6 +2,7 @@
 
 #include "orvane/components/NumberPicture.h"
 #include "orvane/tables/layout/Texts.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <algorithm>
 #include <cmath>
@@ -154,7 +155,8 @@ GridLayout LayOutCategories(const GridTexts& texts, const ValueScale& scale, con
   GridLayout layout = LayOutSize(scale, usual, options);
   layout.xHeader = Label(texts.xHeader);
   layout.yHeader = layout.scale.UnitText();
-  if (!texts.unit.empty()) layout.yHeader = std::string(Trimmed(texts.unit + " " + layout.yHeader));
+  if (!texts.unit.empty())
+    layout.yHeader = std::string(WithoutBlanks(texts.unit + " " + layout.yHeader));
 
   const auto [width, height, depth] = layout.size;
   const double cellWidth = width / static_cast<double>(texts.x.size());

@@ -45,7 +45,8 @@ Columns ReadColumns(const TableReader& reader) {
                                        " column");
     }
     columns.places[*role] = i;
-    const auto said = colon == std::string_view::npos ? text : WithoutBlanks(text.substr(colon + 1));
+    const auto said =
+        colon == std::string_view::npos ? text : WithoutBlanks(text.substr(colon + 1));
     columns.headers[*role] = said;
   }
   for (const Role role : {kX, kY, kZ}) {

@@ -111,6 +111,7 @@ void ReadWide(TableReader& reader, const ReadOptions& options, Table& table) {
       }
     }
     if (options.top > 0) pivot.KeepLargest(options.top, kRest);
+    RequireRoom(options.top > 0 ? 0 : pivot.categories.Names().size(), numbers.size(), reader);
     pivot.FillIn(table);
     return;
   }

@@ -115,7 +115,9 @@ std::string_view TableReader::RawText(std::size_t column) const {
   return source < m_row.size() ? m_row[source].text : std::string_view();
 }
 
-std::string_view TableReader::Text(std::size_t column) const { return WithoutBlanks(RawText(column)); }
+std::string_view TableReader::Text(std::size_t column) const {
+  return WithoutBlanks(RawText(column));
+}
 
 double TableReader::Number(std::size_t column) const {
   const std::size_t source = m_columns[column].source;
@@ -278,7 +280,10 @@ void TableReader::FailAsText(std::size_t column, std::string_view text) const {
   // A text in the first row where another column has a number: one row a value, perhaps.
   if (m_mayMiss && m_spellings[column].first.empty() && column > 0) {
     for (std::size_t i = m_columns.size(); i-- > 1;) {
-      if (i == column || ReadSpelled(Text(i), m_mark).fault != Fault::None) continue;
+      const bool isNumber = std::any_of(kMarks.begin(), kMarks.end(), [&](DecimalMark mark) {
+        return ReadSpelled(Text(i), mark).fault == Fault::None;
+      });
+      if (i == column || !isNumber) continue;
       problem += "; a table with a row for each value takes --category " +
                  Quoted(m_columns[0].name) + " --series " + Quoted(m_columns[column].name) +
                  " --value " + Quoted(m_columns[i].name);
@@ -289,8 +294,8 @@ void TableReader::FailAsText(std::size_t column, std::string_view text) const {
 }
 
 void TableReader::DropEmptyColumns() {
-  while (m_columns.size() > 1 && WithoutBlanks(m_columns.back().name).empty() && m_rows.IsSpelled() &&
-         !m_spellings[m_columns.size() - 1].hasText) {
+  while (m_columns.size() > 1 && WithoutBlanks(m_columns.back().name).empty() &&
+         m_rows.IsSpelled() && !m_spellings[m_columns.size() - 1].hasText) {
     m_columns.pop_back();
     m_spellings.pop_back();
   }
