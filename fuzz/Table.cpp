@@ -24,9 +24,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
       const auto value = name.size() < option.size() ? option.substr(name.size() + 1) : "";
       if (name != "surface") tables::SetOption(kind, options, name, std::string(value));
     }
-    const tables::Source source("table.csv", std::string(text));
-    options.surface = source;
-    const auto world = kind.make(source, options).chart->ExportToString(true, true);
+    const auto table = tables::TableText("table.csv", std::string(text));
+    options.surface = table;
+    const auto world = kind.make(table, options).chart->ExportToString(true, true);
     fuzz::Require(world.starts_with("#VRML V2.0 utf8\n"), "a world has its header");
   } catch (const tables::FileError& error) {
     fuzz::Require(*error.what() != '\0', "a complaint says something");

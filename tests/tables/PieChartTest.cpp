@@ -14,7 +14,9 @@ namespace orvane::tables {
 namespace {
 
 std::vector<PieShare> SharesOf(const std::string& text) {
-  return ReadPieTable(Source("t.csv", text), MissingCell::Zero);
+  ReadOptions options;
+  options.missing = Missing::Zero;
+  return PieSharesOf(ReadTable(*TableText("t.csv", text).open(options), options));
 }
 
 /// Where each slice ends, clockwise from +x, as the exported scene has it.
@@ -42,7 +44,7 @@ void ExpectClosed(const std::vector<PieShare>& shares) {
 
 TEST(PieChart, ClosesTheRing) {
   const Table rain =
-      ReadTable(Source::Read(ORVANE_SOURCE_DIR "/examples/data/seattle-rain.csv"), {});
+      ReadTable(*TableFile(ORVANE_SOURCE_DIR "/examples/data/seattle-rain.csv").open({}));
   std::string rows = "Month,Rain";
   int count = 0;
   for (const TableSeries& year : rain.series) {

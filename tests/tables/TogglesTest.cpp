@@ -38,12 +38,12 @@ std::shared_ptr<Chart> ChartOf(const Kind& kind) {
   ChartOptions options;
   options.title = "A title that is wider than its grid is";
   options.size = GridSize{3, 2, 4};
-  options.surface = Source("s.csv", series);
+  options.surface = TableText("s.csv", series);
   options.sliceLabels = SliceLabels::Always;
   options.useSpinAxis = true;
   options.animation = kind.animation;
   options.loop = LoopStyle::VRML_NO_LOOP;
-  return ChartKindOf(kind.name).make(Source("t.csv", table), options).chart;
+  return ChartKindOf(kind.name).make(TableText("t.csv", table), options).chart;
 }
 
 class Toggles : public testing::TestWithParam<Kind> {

@@ -10,9 +10,7 @@ namespace orvane::tables {
 
 using host::Single;
 
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 void DressAroundGrid(Chart& chart, ChartLegend& legend, const GridLayout& layout,
                      const Subject& subject, const ChartOptions& options) {

@@ -2,6 +2,7 @@
 
 #include "orvane/components/NumberPicture.h"
 #include "orvane/tables/layout/Texts.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <algorithm>
 #include <cmath>
@@ -135,7 +136,7 @@ ValueRange RangeOf(const Table& table) {
 }
 
 GridTexts TextsOf(const Table& table) {
-  GridTexts texts{table.categories, {}, {}, table.categoryHeader};
+  GridTexts texts{table.categories, {}, {}, table.categoryHeader, table.unit};
   for (const TableSeries& series : table.series) texts.z.push_back(series.name);
   texts.legend = texts.z;
   return texts;
@@ -154,6 +155,8 @@ GridLayout LayOutCategories(const GridTexts& texts, const ValueScale& scale, con
   GridLayout layout = LayOutSize(scale, usual, options);
   layout.xHeader = Label(texts.xHeader);
   layout.yHeader = layout.scale.UnitText();
+  if (!texts.unit.empty())
+    layout.yHeader = std::string(WithoutBlanks(texts.unit + " " + layout.yHeader));
 
   const auto [width, height, depth] = layout.size;
   const double cellWidth = width / static_cast<double>(texts.x.size());

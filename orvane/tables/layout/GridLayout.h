@@ -30,6 +30,7 @@ struct GridTexts {
   std::vector<std::string> z;
   std::vector<std::string> legend;
   std::string xHeader;
+  std::string unit = {};  ///< Of the values: "%" or a currency.
 };
 
 /// Texts and sizes of a chart over a grid. Lengths are in scene units.
