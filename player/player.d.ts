@@ -69,6 +69,11 @@ export class Player {
 
   /** The texts that pop up, a list for each popup of the world, with the DEF name of its toggle. */
   readonly values: { name: string, texts: string[] }[];
+  /** The entries of the legend from the top; name is the DEF name of what the check box shows, '' without. */
+  readonly legend: { text: string, color: SFColor | null, name: string, isOn: boolean }[];
+  /** Shows or hides what a legend entry stands for, as its check box would; throws RangeError without one. */
+  show(entry: number, isOn: boolean): void;
+
   readonly pointed: Pointed | null;
   /** Points at a value as a pointer would; index -1 at none. */
   point(popup: number, index: number): void;

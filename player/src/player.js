@@ -1,5 +1,6 @@
 // The player: plays one world at a time in an element of a page. Its interface is described in player.d.ts.
 
+import { legendOf } from './legend.js';
 import { library } from './scene/protos.js';
 import { Scene } from './scene/Scene.js';
 import { pointAt, popupsOf } from './popups.js';
@@ -14,6 +15,7 @@ const TYPES = Object.entries(LISTS);
 export class Player {
   #callbacks = new Map();
   #clock;
+  #legend = [];
   #popups = [];
   #pointed = null;
   #scene = null;
@@ -53,6 +55,7 @@ export class Player {
   #show(scene) {
     this.#scene = scene;
     this.#pointed = null;
+    this.#legend = legendOf(scene);
     this.#popups = popupsOf(scene, (value, popup) => this.#pointTo(value, popup));
     scene.listen('bound', ({ type, node }) => {
       if (type === 'Viewpoint') this.#tell('viewpoint', { index: scene.bindables(type).indexOf(node) });
@@ -101,6 +104,19 @@ export class Player {
 
   get values() { return this.#popups.map(({ name, texts }) => ({ name, texts: [...texts] })); }
 
+  get legend() {
+    return this.#legend.map(({ text, color, toggle }) => ({
+      text, color, name: toggle?.name ?? '', isOn: toggle?.get('contentsExist') ?? true,
+    }));
+  }
+
+  show(entry, isOn) {
+    const { box, toggle } = this.#legend[entry] ?? {};
+    if (!toggle) throw new RangeError(`There is no legend entry ${entry} with a check box`);
+    this.#scene.set(box, 'isOn', isOn);
+    this.#scene.set(toggle, 'contentsExist', isOn);
+  }
+
   get pointed() { return this.#pointed; }
 
   point(popup, index) {
@@ -146,6 +162,7 @@ export class Player {
   dispose() {
     ++this.#loads;
     this.#callbacks.clear();
+    this.#legend = [];
     this.#popups = [];
     this.#scene = null;
     this.#view.dispose();
