@@ -37,11 +37,10 @@ export function popupsOf(scene, tell) {
 
 function popupOf(node, name, n, tell) {
   const { names } = node, { texts } = POPUPS[node.typeName];
-  const say = () => {
-    const index = names.get('Host').get('pointed'), text = node.get(texts)[index] ?? '';
+  names.get('Host').field('shown').listen((index) => {
+    const text = node.get(texts)[index] ?? '';
     tell(text !== '' ? { popup: n, name, index, text } : null, n);
-  };
-  names.get('Host').field('shown').listen(say);
+  });
   return { node, name, get texts() { return node.get(texts); } };
 }
 
