@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace orvane::tool {
@@ -50,10 +51,15 @@ void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostre
   command.callback([request, &kind, &out, &err] {
     const auto& surface = request->options.surface;
     const auto inputs = {fs::path(request->table), fs::path(surface ? surface->name : "")};
+    const auto table = tables::TableFile(request->table);
+    std::optional<tables::TableChart> made;
     WriteWorld(request->output, inputs, out, [&] {
-      const auto made = kind.make(tables::TableFile(request->table), request->options);
-      for (const auto& remark : made.remarks) err << remark << '\n';
-      return made.chart->ExportToString(true, true);
+      if (!made) {
+        made = kind.make(table, request->options);
+        for (const auto& remark : made->remarks) err << remark << '\n';
+      }
+      return MadeWorld{made->chart->ExportToString(true, true), request->options.title, kind.name,
+                       request->table == "-" ? nullptr : &table};
     });
   });
 }

@@ -38,7 +38,9 @@ void AddBuildCommand(CLI::App& app, std::ostream& out) {
       ->type_name("MODEL.json");
   AddOutputOptions(command, *output);
   command.callback([model, output, &out] {
-    WriteWorld(*output, {*model}, out, [&] { return BuildWorld(tables::Source::Read(*model)); });
+    WriteWorld(*output, {*model}, out, [&] {
+      return MadeWorld{BuildWorld(tables::Source::Read(*model)), "", ""};
+    });
   });
 }
 

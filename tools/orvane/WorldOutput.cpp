@@ -4,13 +4,22 @@
 
 #include "orvane/scene/ProtoFiles.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace orvane::tool {
 namespace fs = std::filesystem;
 
 void AddOutputOptions(CLI::App& command, WorldOutput& output) {
-  command.add_option("-o,--output", output.path, "World to write, - for standard output")
+  command
+      .add_option("-o,--output", output.paths,
+                  "File to write, - for a world to standard output; its suffix says what: " +
+                      OutputSuffixes() + ". Several -o write several files")
       ->required()
-      ->type_name("OUT.wrl");
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->check(CLI::Validator(CheckSuffix, ""))
+      ->type_name("OUT");
   const auto endsInSeparator = [](const std::string& prefix) {
     return prefix.ends_with('/') || prefix.ends_with('\\') ? "" : "must end in / or \\";
   };
@@ -23,18 +32,26 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
 }
 
 void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, std::ostream& out,
-                const std::function<std::string()>& makeWorld) {
-  const fs::path path = output.path;
-  std::optional<fs::path> folder;
-  if (path != "-") folder = fs::absolute(path).parent_path();
-  const bool isBesideProtos = LocateProtos(output.protoPrefix, folder);
-  const std::string world = makeWorld();
-  if (!folder) {
-    out << world;
-    return;
+                const std::function<MadeWorld()>& makeWorld) {
+  std::vector<host::OutputFile> files;
+  for (const fs::path path : output.paths) {
+    std::optional<fs::path> folder;
+    if (path != "-") folder = fs::absolute(path).parent_path();
+    // Where a world finds its PROTO files depends on where it goes.
+    const bool isBesideProtos = LocateProtos(output.protoPrefix, folder);
+    const MadeWorld world = makeWorld();
+    if (!folder) {
+      out << world.text;
+      continue;
+    }
+    if (isBesideProtos && IsWorldFile(path)) {
+      for (auto& proto : ProtoFilesIn(path.parent_path())) {
+        const auto isThere = [&](const host::OutputFile& file) { return file.path == proto.path; };
+        if (std::ranges::none_of(files, isThere)) files.push_back(std::move(proto));
+      }
+    }
+    files.push_back({path, BytesFor(path, world)});
   }
-  auto files = isBesideProtos ? ProtoFilesIn(path.parent_path()) : std::vector<host::OutputFile>();
-  files.push_back({path, world});
   host::WriteFiles(files, inputs);
 }
 
