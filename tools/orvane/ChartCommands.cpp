@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace orvane::tool {
@@ -52,14 +51,18 @@ void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostre
     const auto& surface = request->options.surface;
     const auto inputs = {fs::path(request->table), fs::path(surface ? surface->name : "")};
     const auto table = tables::TableFile(request->table);
-    std::optional<tables::TableChart> made;
+    bool isFirst = true;
     WriteWorld(request->output, inputs, out, [&] {
-      if (!made) {
-        made = kind.make(table, request->options);
-        for (const auto& remark : made->remarks) err << remark << '\n';
+      const auto made = kind.make(table, request->options);
+      for (const auto& remark : made.remarks) {
+        if (isFirst) err << remark << '\n';
       }
-      return MadeWorld{made->chart->ExportToString(true, true), request->options.title, kind.name,
-                       request->table == "-" ? nullptr : &table};
+      isFirst = false;
+      MadeWorld world{
+          made.chart->ExportToString(true, true), request->options.title, kind.name, {}};
+      // Standard input has been read to its end.
+      if (request->table != "-") world.table = [&] { return table.open(request->options); };
+      return world;
     });
   });
 }

@@ -39,7 +39,7 @@ void AddBuildCommand(CLI::App& app, std::ostream& out) {
   AddOutputOptions(command, *output);
   command.callback([model, output, &out] {
     WriteWorld(*output, {*model}, out, [&] {
-      return MadeWorld{BuildWorld(tables::Source::Read(*model)), "", ""};
+      return MadeWorld{BuildWorld(tables::Source::Read(*model)), "", "", {}};
     });
   });
 }

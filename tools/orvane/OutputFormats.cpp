@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <vector>
 #ifdef ORVANE_PAGES
 #include "pages/Page.h"
 #endif
@@ -64,7 +65,7 @@ std::string AsStl(const fs::path& path, const MadeWorld& world) {
 #ifdef ORVANE_PAGES
 std::string AsPage(const fs::path& path, const MadeWorld& world) {
   pages::PageFacts facts;
-  if (world.table) facts = pages::FactsOf(world.kind, *world.table->open({}));
+  if (world.table) facts = pages::FactsOf(world.kind, *world.table());
   facts.title = world.title;
   return pages::Page({{path.stem().string() + ".wrl", world.text}}, facts);
 }

@@ -1,10 +1,11 @@
 /// What the program can write, by the suffix of the file.
 #pragma once
 
-#include "orvane/tables/read/TableInput.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,8 +15,8 @@ namespace orvane::tool {
 struct MadeWorld {
   std::string text;
   std::string title;
-  std::string kind;                           ///< Of its chart: "column"; may be empty.
-  const tables::TableInput* table = nullptr;  ///< Its data, where they can be read once more.
+  std::string kind;                                      ///< Of its chart: "column"; may be empty.
+  std::function<std::unique_ptr<tables::Rows>()> table;  ///< Opens its data; may be empty.
 };
 
 /// ".wrl, .html, .png": what WriteWorld takes.

@@ -34,14 +34,19 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
 void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, std::ostream& out,
                 const std::function<MadeWorld()>& makeWorld) {
   std::vector<host::OutputFile> files;
+  std::optional<MadeWorld> world;
+  std::optional<fs::path> madeFor;
   for (const fs::path path : output.paths) {
     std::optional<fs::path> folder;
     if (path != "-") folder = fs::absolute(path).parent_path();
-    // Where a world finds its PROTO files depends on where it goes.
     const bool isBesideProtos = LocateProtos(output.protoPrefix, folder);
-    const MadeWorld world = makeWorld();
+    // Where a world finds its PROTO files depends on the folder; pages and pictures have them.
+    if (!world || (IsWorldFile(path) && folder != madeFor)) {
+      world = makeWorld();
+      madeFor = folder;
+    }
     if (!folder) {
-      out << world.text;
+      out << world->text;
       continue;
     }
     if (isBesideProtos && IsWorldFile(path)) {
@@ -50,7 +55,7 @@ void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, 
         if (std::ranges::none_of(files, isThere)) files.push_back(std::move(proto));
       }
     }
-    files.push_back({path, BytesFor(path, world)});
+    files.push_back({path, BytesFor(path, *world)});
   }
   host::WriteFiles(files, inputs);
 }
