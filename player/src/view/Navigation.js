@@ -29,7 +29,6 @@ export class Navigation {
   down(event) {
     const { view, fingers } = this;
     view.canvas.setPointerCapture(event.pointerId);
-    view.canvas.focus({ preventScroll: true });
     fingers.set(event.pointerId, event);
     if (fingers.size > 1) {
       if (this.drag === 'sensor') view.point('leave', event);
