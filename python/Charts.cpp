@@ -3,6 +3,7 @@
 
 #include "Values.h"
 
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/tables/ChartKinds.h"
 
 #include <exception>
@@ -20,14 +21,14 @@ namespace py = pybind11;
 
 using tables::ChartKind;
 using tables::Option;
-using tables::Source;
+using tables::TableInput;
 
 /// A table as text: what messages call it, and its CSV; without text, the file of that name.
 using TableText = std::pair<std::string, std::optional<std::string>>;
 
-Source SourceOf(const TableText& table) {
+TableInput InputOf(const TableText& table) {
   const auto& [name, text] = table;
-  return text ? Source(name, *text) : Source::Read(name);
+  return text ? tables::TableText(name, *text) : tables::TableFile(name);
 }
 
 /// The chart, and what is to be said about it.
@@ -38,8 +39,8 @@ std::pair<py::object, std::vector<std::string>> MakeChart(
   const ChartKind& kind = tables::ChartKindOf(kindName);
   tables::ChartOptions chosen;
   for (const auto& [name, text] : options) tables::SetOption(kind, chosen, name, text);
-  if (surface) chosen.surface = SourceOf(*surface);
-  const auto made = kind.make(SourceOf(table), chosen);
+  if (surface) chosen.surface = InputOf(*surface);
+  const auto made = kind.make(InputOf(table), chosen);
   return {ToPython(host::Value(made.chart)), made.remarks};
 }
 
@@ -66,6 +67,7 @@ void AddCharts(py::module_& module) {
       .def_readonly("options", &ChartKind::options);
   module.def("chart_kinds", &tables::ChartKinds, py::return_value_policy::reference);
   module.def("make_chart", &MakeChart);
+  module.def("write_protos", [](const std::string& folder) { WriteProtos(folder); });
 }
 
 }  // namespace orvane::python

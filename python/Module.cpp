@@ -23,6 +23,7 @@ namespace {
 namespace py = pybind11;
 
 using host::EnumInfo;
+using host::EventInfo;
 using host::Help;
 using host::Member;
 using host::Parameter;
@@ -34,22 +35,65 @@ const Member& MemberAt(const TypeInfo& type, int id) {
   return type.Members().at(static_cast<std::size_t>(id));
 }
 
-std::vector<Value> ToValues(const py::tuple& values, host::Object& object, int id) {
-  const TypeInfo& type = object.Type();
+std::vector<Value> ToValues(const py::tuple& values, const TypeInfo& type, int id) {
   std::vector<Value> converted;
   converted.reserve(values.size());
   for (const py::handle value : values) {
-    converted.push_back(ToValue(value, object, {type, MemberAt(type, id), converted.size()}));
+    converted.push_back(ToValue(value, {type, MemberAt(type, id), converted.size()}));
   }
   return converted;
 }
 
 py::object Get(const Reference& self, int id, const py::tuple& arguments) {
-  return ToPython(self.object->Get(id, ToValues(arguments, *self.object, id)));
+  return ToPython(self.object->Get(id, ToValues(arguments, self.object->Type(), id)));
 }
 
 void Let(const Reference& self, int id, const py::tuple& argumentsAndValue) {
-  self.object->Let(id, ToValues(argumentsAndValue, *self.object, id));
+  self.object->Let(id, ToValues(argumentsAndValue, self.object->Type(), id));
+}
+
+/// Raises what a Python handler of `event` has raised as the error of the call that raised the
+/// event, with the Python exception as its cause. What is no Exception, such as an interrupt, goes
+/// on as it is.
+[[noreturn]] void RaiseFromHandler(const py::error_already_set& raised, const std::string& event) {
+  if (!raised.matches(PyExc_Exception)) throw raised;
+  auto number = host::ErrorNumber::HandlerFailed;
+  std::string text = "The handler of " + event +
+                     " failed: " + py::str(raised.type().attr("__name__")).cast<std::string>() +
+                     ": " + py::str(raised.value()).cast<std::string>();
+  if (raised.matches(py::module_::import("orvane._orvane").attr("AutomationError"))) {
+    number = static_cast<host::ErrorNumber>(
+        py::getattr(raised.value(), "number", py::int_(static_cast<std::uint32_t>(number)))
+            .cast<std::uint32_t>());
+    text = py::str(raised.value()).cast<std::string>();
+  }
+  try {
+    throw raised;
+  } catch (...) {
+    std::throw_with_nested(host::AutomationError(number, text));
+  }
+}
+
+int Subscribe(const Reference& self, const std::string& event, const py::function& handler) {
+  const std::string where = self.object->Type().Name() + "." + event;
+  return self.object->Subscribe(event, [handler, where](host::Object::Arguments arguments) {
+    py::tuple values(arguments.size());
+    for (std::size_t i = 0; i < arguments.size(); ++i) values[i] = ToPython(arguments[i]);
+    try {
+      handler(*values);
+    } catch (const py::error_already_set& raised) {
+      RaiseFromHandler(raised, where);
+    }
+  });
+}
+
+/// Makes the Python exception that `error` came from, if any, the cause of `raised`.
+void AddCause(const host::AutomationError& error, const py::object& raised) {
+  try {
+    std::rethrow_if_nested(error);
+  } catch (const py::error_already_set& cause) {
+    PyException_SetCause(raised.ptr(), cause.value().inc_ref().ptr());
+  }
 }
 
 /// A Python exception class. It stays until the process ends.
@@ -86,6 +130,7 @@ void AddErrors(py::module_& module) {
       raised.attr("number") = static_cast<std::uint32_t>(error.Number());
       raised.attr("message") = message;
       raised.attr("source") = error.Source();
+      AddCause(error, raised);
       PyErr_SetObject(type.ptr(), raised.ptr());
     }
   });
@@ -102,10 +147,12 @@ void AddTables(py::module_& module) {
       });
   py::class_<ValueType>(module, "ValueType")
       .def_readonly("name", &ValueType::name)
-      .def_readonly("enumeration", &ValueType::enumeration);
+      .def_readonly("enumeration", &ValueType::enumeration)
+      .def_readonly("components", &ValueType::components);
   py::class_<Parameter>(module, "Parameter")
       .def_readonly("name", &Parameter::name)
       .def_readonly("type", &Parameter::type)
+      .def_property_readonly("range", [](const Parameter& p) { return p.range.Text(); })
       .def_readonly("is_out", &Parameter::isOut)
       .def_property_readonly("is_optional",
                              [](const Parameter& p) { return !p.fallback.IsEmpty(); })
@@ -113,8 +160,7 @@ void AddTables(py::module_& module) {
   py::class_<Help>(module, "Help")
       .def_readonly("text", &Help::text)
       .def_readonly("unit", &Help::unit)
-      .def_readonly("range", &Help::range)
-      .def_readonly("initial", &Help::initial);
+      .def_property_readonly("range", [](const Help& help) { return help.range.Text(); });
   py::class_<Member>(module, "Member")
       .def_readonly("name", &Member::name)
       .def_readonly("is_method", &Member::isMethod)
@@ -123,10 +169,18 @@ void AddTables(py::module_& module) {
       .def_readonly("help", &Member::help)
       .def_property_readonly("is_read", [](const Member& m) { return static_cast<bool>(m.get); })
       .def_property_readonly("is_let", [](const Member& m) { return static_cast<bool>(m.let); });
+  py::class_<EventInfo>(module, "EventInfo")
+      .def_readonly("name", &EventInfo::name)
+      .def_readonly("parameters", &EventInfo::parameters)
+      .def_readonly("text", &EventInfo::text);
   py::class_<TypeInfo>(module, "TypeInfo")
       .def_property_readonly("name", &TypeInfo::Name)
       .def_property_readonly("text", &TypeInfo::Text)
-      .def_property_readonly("members", &TypeInfo::Members);
+      .def_property_readonly("members", &TypeInfo::Members)
+      .def_property_readonly("events", &TypeInfo::Events)
+      .def_property_readonly("entry", [](const TypeInfo& type) {
+        return type.Entry().name.empty() ? nullptr : &type.Entry();
+      });
 
   module.def("types", [] {
     py::list types;
@@ -135,6 +189,18 @@ void AddTables(py::module_& module) {
     }
     return types;
   });
+  // How the members of each class read at first.
+  module.def("initial_texts", [] {
+    py::dict texts;
+    for (const auto& object : ObjectModel()) {
+      py::dict members;
+      for (const Member& member : object->Type().Members()) {
+        members[py::str(member.name)] = ToPython(InitialText(*object, member));
+      }
+      texts[py::str(object->Type().Name())] = members;
+    }
+    return texts;
+  });
 }
 
 void AddObject(py::module_& module) {
@@ -142,6 +208,9 @@ void AddObject(py::module_& module) {
       .def(py::init<const Reference&>())
       .def("_get", Get)
       .def("_let", Let)
+      .def("_subscribe", Subscribe)
+      .def("_unsubscribe",
+           [](const Reference& self, int subscription) { self.object->Unsubscribe(subscription); })
       .def("_id", [](const Reference& self,
                      const std::string& name) { return self.object->Type().IdOf(name); })
       .def("__eq__",

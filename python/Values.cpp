@@ -154,12 +154,6 @@ class Buffer {
   bool m_isHeld = false;
 };
 
-/// How many numbers an entry of a list of this type has: what its Append takes. Elsewhere 1.
-std::size_t ComponentsOf(const TypeInfo& type) {
-  const int append = type.Find("Append");
-  return append < 0 ? 1 : type.Members()[static_cast<std::size_t>(append)].parameters.size();
-}
-
 /// Collects a row of numbers on its way to `place`, in entries of `components` numbers.
 class RowReader {
  public:
@@ -250,9 +244,9 @@ bool IsRow(py::handle value) {
   return Py_TYPE(raw)->tp_iter != nullptr;
 }
 
-Value ToValue(py::handle value, Object& object, const Place& place) {
+Value ToValue(py::handle value, const Place& place) {
   if (!IsRow(value)) return Scalar(value, place);
-  return RowReader(place, place.member.isMethod ? 1 : ComponentsOf(object.Type())).Read(value);
+  return RowReader(place, place.Type().components).Read(value);
 }
 
 py::object ToPython(const Value& value) {

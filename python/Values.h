@@ -19,13 +19,13 @@ struct Reference {
 /// iterated over, but no text, bytes, mapping or set.
 bool IsRow(pybind11::handle value);
 
-/// A Python value on its way to `place` of `object`. Numbers of any package go in by what they say
+/// A Python value on its way to `place`. Numbers of any package go in by what they say
 /// of themselves, None is no object, a path is its text.
 ///
 /// A row becomes a row of numbers: arrays of numbers in one go, other rows number by number. In a
 /// list whose entries have k > 1 components it is n rows of k numbers, or n * k numbers. Raises
 /// TypeMismatch for what has no meaning to the model.
-host::Value ToValue(pybind11::handle value, host::Object& object, const host::Place& place);
+host::Value ToValue(pybind11::handle value, const host::Place& place);
 
 /// A value of the model as Python has it: a row as a tuple of floats, an object as one of the class
 /// that `ClassOf` gives.

@@ -8,7 +8,7 @@ from orvane import _classes, _orvane
 HEADER = '''\
 """Type stubs, written from the type tables of the object model."""
 
-from collections.abc import Iterable, Iterator
+from collections.abc import Callable, Iterable, Iterator
 from enum import IntEnum
 from os import PathLike
 from pathlib import Path
@@ -21,7 +21,6 @@ _Let = TypeVar("_Let", contravariant=True)
 _Entry = TypeVar("_Entry")
 
 __all__: list[str]
-ProtoFolder: Path
 
 __version__: str
 chart_kinds: list[str]
@@ -36,6 +35,12 @@ class AutomationError(Exception):
 class UnknownMember(AutomationError, AttributeError): ...
 
 class Object: ...
+
+class Event:
+    """An event of an object."""
+
+    def Subscribe(self, handler: Callable[..., object], /) -> int: ...
+    def Unsubscribe(self, subscription: int, /) -> None: ...
 
 class _Property(Generic[_Read, _Let]):
     """A property that takes more types than it gives."""
@@ -61,13 +66,13 @@ BASIC = {
     "Boolean": "bool",
     "Int16": "int",
     "Int32": "int",
+    "Color": "int",
     "Single": "float",
     "Double": "float",
     "String": "str",
     "Numbers": "tuple[float, ...]",
 }
-LET = {"Numbers": "Iterable[Any]"}
-ENTRIES = {"MFString": "Iterable[str]", "MFNode": "Iterable[Object]"}
+LET = {"Numbers": "Iterable[Any]", "Color": "int | str"}
 
 # A class that no table describes may be any of several.
 TABLES = {table.name: table for table in _orvane.types()}
@@ -116,8 +121,10 @@ def property_(member, text):
     given, taken = read_type(member.type), let_type(member.type)
     if member.parameters:
         return attribute(member.name, f"{'_LetItem' if member.is_let else '_Item'}[{given}]", text)
-    if _classes._is_list(member):
-        taken = ENTRIES.get(member.type.name, "Iterable[Any]")
+    entry = _classes.list_entry(member)
+    if entry is not None:
+        is_number = entry.name in ("Numbers", "Single")
+        taken = f"Iterable[{'Any' if is_number else read_type(entry, 'Object')}]"
         return attribute(member.name, f"_Property[{given}, {taken}]", text)
     if member.is_let and given != taken:
         return attribute(member.name, f"_Property[{given}, {taken}]", text)
@@ -138,11 +145,13 @@ def class_(table):
         lines += (method if member.is_method else property_)(member, text)
     if hasattr(made, "save"):
         lines += ["    def save(self, path: str | PathLike[str]) -> None:", *documented(made.save.__doc__)]
-    items = [member for member in table.members if member.name == "Item"]
-    if items and hasattr(made, "__len__"):
+    for event in table.events:
+        lines += ["    @property", f"    def {event.name}(self) -> Event:"]
+        lines += [*documented(getattr(made, event.name).__doc__), "        ..."]
+    if table.entry is not None:
         lines += [
             "    def __len__(self) -> int: ...",
-            f"    def __iter__(self) -> Iterator[{read_type(items[0].type)}]: ...",
+            f"    def __iter__(self) -> Iterator[{read_type(table.entry)}]: ...",
         ]
     return lines
 

@@ -16,7 +16,7 @@ class Error : public std::runtime_error {
 
 /// What reading and running a world may take.
 struct Limits {
-  double seconds = 60;  ///< for reading and for all scripts together, > 0
+  double seconds = 30;  ///< for reading and for all scripts together, > 0
   std::size_t bytes = std::size_t{1024}
                       << 20;  ///< for the scene, and as much again for its scripts
 };

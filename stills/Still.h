@@ -101,6 +101,9 @@ class World {
   /// Reads a file and the PROTO files that it names, as far as these are files too.
   static World Read(const std::string& path, const Options& options = {});
 
+  /// The same of a text; `path` is where the file would be, beside its PROTO files.
+  static World Parse(std::string_view text, const std::string& path, const Options& options = {});
+
   World(World&&) noexcept;
   World& operator=(World&&) noexcept;
   ~World();

@@ -77,6 +77,8 @@ struct World::Parts {
 
   /// Tells the sensors near the viewer, and those that he has left; true if one took notice.
   bool TellSensors(const std::vector<PlacedSensor>& sensors, const Matrix& viewer);
+  /// What moves things in loops from the start.
+  std::vector<Node*> Clocks();
   View Chosen(const std::vector<View>& views, std::string_view name);
 
   Scene scene;
@@ -90,12 +92,16 @@ World& World::operator=(World&&) noexcept = default;
 World::~World() = default;
 
 World World::Read(const std::string& path, const Options& options) {
-  World world;
-  world.m_parts = std::make_unique<Parts>(options, path);
   const auto text = TextOf(path, options.limits);
   if (!text) throw Error(path + ": the file cannot be read");
+  return Parse(*text, path, options);
+}
+
+World World::Parse(std::string_view text, const std::string& path, const Options& options) {
+  World world;
+  world.m_parts = std::make_unique<Parts>(options, path);
   Scene& scene = world.m_parts->scene;
-  scene.Load(ParseWorld(*text, path, scene.TheBudget()));
+  scene.Load(ParseWorld(text, path, scene.TheBudget()));
   return world;
 }
 
@@ -114,6 +120,15 @@ View World::Parts::Chosen(const std::vector<View>& views, std::string_view name)
   }
   throw Error("the world has no viewpoint \"" + std::string(name) +
               "\"; there are: " + (known.empty() ? "none" : known));
+}
+
+std::vector<Node*> World::Parts::Clocks() {
+  std::vector<Node*> clocks;
+  for (Node& node : scene.AllNodes()) {
+    const bool isClock = node.Is("TimeSensor") && node.Bool("enabled") && node.Bool("loop");
+    if (isClock) clocks.push_back(&node);
+  }
+  return clocks;
 }
 
 bool World::Parts::TellSensors(const std::vector<PlacedSensor>& sensors, const Matrix& viewer) {
@@ -164,6 +179,31 @@ Still World::From(std::string_view name) {
     still.background.groundColors = Colors(found.background->Floats("groundColor"));
   }
   return still;
+}
+
+void World::Turn(float fraction) {
+  for (Node* clock : m_parts->Clocks()) {
+    m_parts->scene.Raise(*clock, "fraction_changed", std::vector<float>{fraction});
+  }
+}
+
+double World::TurnSeconds() const {
+  double seconds = 0;
+  for (const Node* clock : m_parts->Clocks()) {
+    seconds = std::max(seconds, clock->Doubles("cycleInterval")[0]);
+  }
+  return seconds;
+}
+
+std::vector<float> World::TurnKeys() const {
+  std::set<float> keys{0, 1};
+  for (const Node* clock : m_parts->Clocks()) {
+    for (const Link& link : clock->Field(clock->Find("fraction_changed")).routes) {
+      if (!link.node->TypeName().ends_with("Interpolator")) continue;
+      for (const float key : link.node->Floats("key")) keys.insert(std::clamp(key, 0.0F, 1.0F));
+    }
+  }
+  return {keys.begin(), keys.end()};
 }
 
 }  // namespace orvane::stills

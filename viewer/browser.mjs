@@ -121,6 +121,13 @@ class View {
     return this.page.evaluate(pixelsOfRow, [picture.toString('base64'), Math.round(y)]);
   }
 
+  // Where a picture shows something of a colour, in pixels from the left, or else from the top: the
+  // middle of each run of columns, or rows, with pixels in which `channel` (0 red, 1 green, 2 blue)
+  // is far above the others.
+  bands(picture, channel, fromLeft) {
+    return this.page.evaluate(middlesOfBands, [picture.toString('base64'), channel, fromLeft]);
+  }
+
   // The value of a node's field; the node is named as for `at`.
   read(path, field) {
     return this.#inScene(({ find, plain }, { path, field }) => (
@@ -236,6 +243,24 @@ async function pixelsOfRow([png, y]) {
   context.drawImage(bitmap, 0, -y);
   const { data } = context.getImageData(0, 0, bitmap.width, 1);
   return Array.from({ length: bitmap.width }, (_, x) => [...data.slice(4 * x, 4 * x + 3)]);
+}
+
+// Runs in the page.
+async function middlesOfBands([png, channel, fromLeft]) {
+  const bytes = Uint8Array.from(atob(png), (char) => char.charCodeAt(0));
+  const bitmap = await createImageBitmap(new Blob([bytes]));
+  const { width, height } = bitmap;
+  const context = new OffscreenCanvas(width, height).getContext('2d');
+  context.drawImage(bitmap, 0, 0);
+  const { data } = context.getImageData(0, 0, width, height);
+  const isColoured = Array(fromLeft ? width : height).fill(false);
+  for (let at = 0; at < data.length; at += 4) {
+    const others = [0, 1, 2].filter((i) => i !== channel).map((i) => data[at + i]);
+    if (data[at + channel] < 80 + 2 * Math.max(...others)) continue;
+    isColoured[fromLeft ? (at / 4) % width : Math.floor(at / 4 / width)] = true;
+  }
+  const edges = isColoured.flatMap((is, i) => (is !== Boolean(isColoured[i - 1]) ? [i] : []));
+  return edges.flatMap((edge, i) => (i % 2 ? [(edges[i - 1] + edge) / 2] : []));
 }
 
 // Runs in the page: ways through the scene on X_ITE's side of it. X_ITE keeps matrices as arrays of

@@ -74,6 +74,9 @@ int main(int argc, char** argv) {
     fprintf(stderr, "cannot write %s\n", file);
     return 1;
   }
+  orvane_OrvaneWriteProtos write_protos;
+  *(void**)&write_protos = dlsym(library, "OrvaneWriteProtos");
+  check(write_protos(argc > 3 ? argv[3] : ".", &error));
   printf("wrote %s\n", file);
 
   orvane_object* all[] = {heights, series, grid, title, chart, factory, control};

@@ -20,9 +20,11 @@ enum class ErrorNumber : std::uint32_t {
   WrongArgumentCount = 0x8002000E,
   DivisionByZero = 0x80020012,
   ReadOnlyProperty = 0x800A017F,
-  FileAccess = 0x800A004B,    ///< A file of the host's that cannot be written.
-  PathNotFound = 0x800A004C,  ///< No such folder.
+  HandlerFailed = 0x80020009,  ///< A handler of an event ended with an error that has no number.
+  FileAccess = 0x800A004B,     ///< A file of the host's that cannot be written.
+  PathNotFound = 0x800A004C,   ///< No such folder.
 
+  NoSubscription = 0x80040200,     ///< Unsubscribe of what is not subscribed.
   ListIndex = 0x80040201,          ///< A list index outside 1..Count.
   NodeNotInList = 0x80040202,      ///< Remove of a node that the list does not hold.
   NoNode = 0x80040203,             ///< Nothing where a node is needed.

@@ -95,6 +95,30 @@ std::int32_t ToWhole(const Value& value, double low, double high, const Place& p
   return static_cast<std::int32_t>(whole);
 }
 
+std::int32_t ToInt32(const Value& value, const Place& place) {
+  const auto* text = value.If<std::string>();
+  if (text != nullptr && place.Type() == kColorType && text->starts_with('#')) {
+    if (const auto color = ParseColor(*text)) return *color;
+    RaiseMismatch(value, "a colour (#rrggbb)", place);
+  }
+  return ToWhole(value, INT32_MIN, INT32_MAX, place);
+}
+
+std::optional<std::int32_t> ParseColor(std::string_view text) {
+  if (text.size() != 7 || text[0] != '#') return {};
+  std::uint32_t rgb = 0;
+  const auto result = std::from_chars(text.data() + 1, text.data() + text.size(), rgb, 16);
+  if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return {};
+  return static_cast<std::int32_t>(rgb >> 16 | (rgb & 0xFF00) | (rgb & 0xFF) << 16);
+}
+
+std::string ColorText(std::int32_t color) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string text = "#";
+  for (const int shift : {4, 0, 12, 8, 20, 16}) text += kDigits[color >> shift & 0xF];
+  return text;
+}
+
 std::int32_t ToEnumerator(const Value& value, const EnumInfo& info, const Place& place) {
   if (const auto* text = value.If<std::string>()) {
     if (const auto number = info.ValueOf(*text)) return *number;

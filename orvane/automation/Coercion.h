@@ -15,6 +15,7 @@
 #include <concepts>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -27,16 +28,26 @@ struct Place {
   const Member& member;
   std::size_t argument;  ///< 0-based; the number of parameters for the value of a let.
 
+  const ValueType& Type() const {
+    return argument < member.parameters.size() ? member.parameters[argument].type : member.type;
+  }
   ORVANE_API std::string Describe() const;
 };
 
 /// `value` as people write it. Raises TypeMismatch for objects and rows.
 ORVANE_API std::string ToText(const Value& value);
 
+/// The colour that `text`, "#rrggbb", spells, if it does.
+ORVANE_API std::optional<std::int32_t> ParseColor(std::string_view text);
+/// `color`, 0..0xFFFFFF, as "#rrggbb".
+ORVANE_API std::string ColorText(std::int32_t color);
+
 ORVANE_API bool ToBoolean(const Value& value, const Place& place);
 ORVANE_API double ToNumber(const Value& value, const Place& place);
 /// Raises Overflow outside `low`..`high`, after rounding half to even.
 ORVANE_API std::int32_t ToWhole(const Value& value, double low, double high, const Place& place);
+/// A whole number of 32 bits; at a place for a colour, "#rrggbb" is one.
+ORVANE_API std::int32_t ToInt32(const Value& value, const Place& place);
 ORVANE_API std::string ToText(const Value& value, const Place& place);
 ORVANE_API std::int32_t ToEnumerator(const Value& value, const EnumInfo& info, const Place& place);
 [[noreturn]] ORVANE_API void RaiseMismatch(const Value& value, const std::string& expected,
@@ -67,9 +78,7 @@ struct Automation<std::int16_t> {
 template <>
 struct Automation<std::int32_t> {
   static ValueType Type() { return {"Int32", nullptr}; }
-  static std::int32_t From(const Value& value, const Place& place) {
-    return ToWhole(value, INT32_MIN, INT32_MAX, place);
-  }
+  static std::int32_t From(const Value& value, const Place& place) { return ToInt32(value, place); }
   static Value To(std::int32_t value) { return value; }
 };
 

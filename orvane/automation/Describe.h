@@ -5,6 +5,7 @@
 #include "orvane/automation/Coercion.h"
 #include "orvane/automation/Object.h"
 
+#include <array>
 #include <memory>
 #include <span>
 #include <string>
@@ -60,6 +61,15 @@ class Describe {
     return Add<T>(name, Getter<T>(get), Letter<T>(let), std::move(help));
   }
 
+  /// A colour, which C++ has as a 32-bit integer.
+  Describe& Color(const char* name, std::int32_t (C::*get)() const, void (C::*let)(std::int32_t),
+                  Help help) {
+    Property<std::int32_t>(name, get, let, std::move(help));
+    m_type.Last().type = kColorType;
+    m_type.Last().help.range = kColors;
+    return *this;
+  }
+
   /// A property that can be set but not read.
   template <class T>
   Describe& WriteOnly(const char* name, void (C::*let)(LetArgument<T>), Help help) {
@@ -80,10 +90,39 @@ class Describe {
     return AddMethod<R, A...>(name, method, std::move(parameters), std::move(help));
   }
 
+  /// An event that the class raises.
+  template <class... A>
+  Describe& Event(const char* name, host::Event<A...> C::*event, std::vector<Parameter> parameters,
+                  const char* text) {
+    std::size_t next = 0;
+    ((parameters.at(next++).type = Automation<A>::Type()), ...);
+    const auto connect = [event](Object& object, EventHandler handler) {
+      return (static_cast<C&>(object).*event).Connect([handler = std::move(handler)](A... values) {
+        const std::array<Value, sizeof...(A)> arguments{Automation<A>::To(values)...};
+        handler(arguments);
+      });
+    };
+    m_type.Add(EventInfo{name, std::move(parameters), connect, text});
+    return *this;
+  }
+
+  /// Says that the class is a list with entries of type `T`.
+  template <class T>
+  Describe& ListOf() {
+    m_type.SetEntry(Automation<T>::Type());
+    return *this;
+  }
+
+  /// Says that the last member makes up the value of a field, alone or with others.
+  Describe& IsValue() {
+    m_type.AddLastToValue();
+    return *this;
+  }
+
   /// A read-only property with an index, such as the Item of a list.
   template <class T, class Owner, class Index>
   Describe& Indexed(const char* name, T (Owner::*get)(Index) const, Help help) {
-    AddMethod<T, Index>(name, get, {"Index"}, std::move(help));
+    AddMethod<T, Index>(name, get, {{"Index", UpTo("Count")}}, std::move(help));
     m_type.Last().isMethod = false;
     return *this;
   }
@@ -136,13 +175,18 @@ class Describe {
     return *this;
   }
 
+  /// What the declaration of a parameter as `A` says of it.
+  template <class A>
+  static void Complete(Parameter& parameter) {
+    parameter.isOut = kIsOut<A>;
+    if (parameter.type != kColorType) parameter.type = Automation<std::remove_cvref_t<A>>::Type();
+  }
+
   template <class R, class... A, class Pointer>
   Describe& AddMethod(const char* name, Pointer method, std::vector<Parameter> parameters,
                       Help help) {
-    std::size_t next = 0;
-    ((parameters.at(next).isOut = kIsOut<A>,
-      parameters[next++].type = Automation<std::remove_cvref_t<A>>::Type()),
-     ...);
+    [[maybe_unused]] std::size_t next = 0;
+    (Complete<A>(parameters.at(next++)), ...);
     ValueType result;
     if constexpr ((kIsOut<A> || ...)) result = {"Numbers"};
     if constexpr (!std::is_void_v<R>) result = Automation<R>::Type();

@@ -8,6 +8,11 @@ namespace orvane::host {
 EnumInfo::EnumInfo(std::string name, std::vector<Enumerator> enumerators)
     : m_name(std::move(name)), m_enumerators(std::move(enumerators)) {}
 
+std::string EnumInfo::NameOf(std::int32_t value) const {
+  const auto found = std::ranges::find(m_enumerators, value, &Enumerator::value);
+  return found == m_enumerators.end() ? std::to_string(value) : found->name;
+}
+
 std::optional<std::int32_t> EnumInfo::ValueOf(std::string_view name) const {
   for (const auto& enumerator : m_enumerators) {
     if (EqualNoCase(enumerator.name, name)) return enumerator.value;

@@ -24,6 +24,8 @@ class ORVANE_API EnumInfo {
   const std::string& Name() const { return m_name; }
   const std::vector<Enumerator>& Enumerators() const { return m_enumerators; }
 
+  /// The name of the enumerator with value `value`; the number itself where there is none.
+  std::string NameOf(std::int32_t value) const;
   /// The value of the enumerator called `name`, in any case.
   std::optional<std::int32_t> ValueOf(std::string_view name) const;
 

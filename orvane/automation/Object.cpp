@@ -3,6 +3,7 @@
 #include "orvane/automation/AutomationError.h"
 
 #include <algorithm>
+#include <map>
 
 namespace orvane::host {
 namespace {
@@ -79,6 +80,30 @@ void Object::Let(int id, Arguments argumentsAndValue) {
                        argumentsAndValue.size());
   }
   member.let(*this, argumentsAndValue);
+}
+
+struct Object::Subscriptions {
+  std::map<int, Subscription> all;
+  int last = 0;
+};
+
+int Object::Subscribe(std::string_view event, EventHandler handler) {
+  const auto isIt = [=](const EventInfo& info) { return EqualNoCase(info.name, event); };
+  const auto found = std::ranges::find_if(Type().Events(), isIt);
+  if (found == Type().Events().end()) {
+    throw AutomationError(ErrorNumber::UnknownMember,
+                          Type().Name() + " has no event \"" + std::string(event) + "\"");
+  }
+  if (m_subscriptions == nullptr) m_subscriptions = std::make_shared<Subscriptions>();
+  m_subscriptions->all[++m_subscriptions->last] = found->connect(*this, std::move(handler));
+  return m_subscriptions->last;
+}
+
+void Object::Unsubscribe(int subscription) {
+  if (m_subscriptions == nullptr || m_subscriptions->all.erase(subscription) == 0) {
+    throw AutomationError(ErrorNumber::NoSubscription,
+                          Type().Name() + " has no subscription " + std::to_string(subscription));
+  }
 }
 
 }  // namespace orvane::host

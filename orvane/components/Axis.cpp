@@ -13,13 +13,12 @@ using host::Quotient;
 using host::Single;
 
 Axis::Axis()
-    : m_root(scene::Create<scene::Transform>()),
-      m_labelsTransform(scene::Create<scene::Transform>()),
+    : m_labelsTransform(scene::Create<scene::Transform>()),
       m_headerTransform(scene::Create<scene::Transform>()) {
   m_labelsTransform->children.Append(m_labels.Node());
   m_headerTransform->children.Append(m_header.Node());
-  m_root->children.Append(m_labelsTransform);
-  m_root->children.Append(m_headerTransform);
+  Root()->children.Append(m_labelsTransform);
+  Root()->children.Append(m_headerTransform);
 }
 
 void Axis::Header(const std::string& text) {
@@ -46,32 +45,37 @@ void Axis::LabelTextGap(float gap) {
 
 void Axis::ShowAxis(bool show) {
   if (show == m_isShown) return;
-  m_root->children.Clear();
+  Root()->children.Clear();
   if (show) {
-    m_root->children.Append(m_labelsTransform);
-    m_root->children.Append(m_headerTransform);
+    Root()->children.Append(m_labelsTransform);
+    Root()->children.Append(m_headerTransform);
   }
   m_isShown = show;
 }
 
-void Axis::AlignHeader() {
+void Axis::LevelLabels(double drop) {
+  // Capitals and digits rise from the baseline to 0.7 of the height.
+  constexpr double kMiddle = 0.35;
+  m_labelsTransform->translation.Y(Single(-(drop + kMiddle) * LabelHeight()));
+}
+
+void Axis::AlignHeader(const HeaderPlacement& placement) {
   if (!m_hasHeader) return;
   m_header.Justify({"MIDDLE", "BEGIN"});
 
   const double size = m_labels.Height();
   const double lineAdvance = m_labels.Spacing() * size;
-  m_headerTransform->translation.Y(Single(lineAdvance * (Lines().Count() - 1) / -2));
+  m_headerTransform->translation.Y(
+      Single(lineAdvance * (Lines().Count() - 1) / -2 - placement.shift));
 
   float widest = 0;
   for (const auto& label : Lines().Items()) {
     widest = std::max(widest, EstimateTextWidth(label, m_labels.Height()));
   }
-  constexpr double kClearance = 1.1;
-  constexpr float kQuarterTurn = 1.5708F;
   // Labels that begin at their origin extend along +x, those that end there along -x.
   const bool extendsRight = Alignment() == LabelAlignment::LEFT_ALIGN;
-  m_headerTransform->translation.X(
-      Single(extendsRight ? widest * kClearance : widest * -kClearance));
+  const double distance = placement.distance.Of(widest);
+  m_headerTransform->translation.X(Single(extendsRight ? distance : -distance));
   m_headerTransform->rotation.SetValue(0, 0, 1, extendsRight ? kQuarterTurn : -kQuarterTurn);
 }
 

@@ -3,6 +3,7 @@
 
 #include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
+#include "orvane/components/Placement.h"
 #include "orvane/components/TextShape.h"
 
 #include <cstdint>
@@ -11,25 +12,17 @@
 
 namespace orvane {
 
-/// What a chart sets on either kind of axis at export.
-class ORVANE_API IAxis {
- public:
-  virtual ~IAxis() = default;
-
-  /// The side of the labels' origin that they extend away from. Values outside the enumeration are
-  /// ignored.
-  virtual LabelAlignment Alignment() const = 0;
-  virtual void Alignment(LabelAlignment alignment) = 0;
-  /// Distance between label lines in scene units, > 0: the grid's spacing along the axis.
-  virtual float LabelTextGap() const = 0;
-  virtual void LabelTextGap(float gap) = 0;
-  /// Puts the header beside the middle of the label column, a tenth of the widest label's estimated
-  /// width away from it. Without a header nothing changes.
-  virtual void AlignHeader() = 0;
+/// Where the header of an axis stands beside its labels. The defaults put it beside their middle, a
+/// tenth of the widest label's width away from it.
+struct HeaderPlacement {
+  /// From the labels' origin, on the side that they extend to; of the widest label's estimated
+  /// width.
+  Length distance{1.1};
+  double shift = 0;  ///< Down from the middle of the labels, in scene units.
 };
 
 /// Labels run down from the axis root's origin; the chart places and turns the root.
-class ORVANE_API Axis : public host::Object, public ISceneRoot, public virtual IAxis {
+class ORVANE_API Axis : public host::Object, public RootedAt<scene::Transform> {
  public:
   /// The header's text, kept as it is given; blank for none. Default "".
   std::string Header() const { return m_header.FirstLine(); }
@@ -63,15 +56,18 @@ class ORVANE_API Axis : public host::Object, public ISceneRoot, public virtual I
   bool ShowAxis() const { return m_isShown; }
   void ShowAxis(bool show);
 
-  LabelAlignment Alignment() const override { return m_labels.Alignment(); }
-  void Alignment(LabelAlignment alignment) override { m_labels.Alignment(alignment); }
-  float LabelTextGap() const override { return m_labelGap; }
-  void LabelTextGap(float gap) override;
-  void AlignHeader() override;
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places and turns it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  /// The side of the labels' origin that they extend away from. Values outside the enumeration are
+  /// ignored.
+  LabelAlignment Alignment() const { return m_labels.Alignment(); }
+  void Alignment(LabelAlignment alignment) { m_labels.Alignment(alignment); }
+  /// Distance between label lines in scene units, > 0: the grid's spacing along the axis.
+  float LabelTextGap() const { return m_labelGap; }
+  void LabelTextGap(float gap);
+  /// Moves the labels so that the middle of the first one is `drop` label heights below the root's
+  /// origin.
+  void LevelLabels(double drop);
+  /// Puts the header beside the label column. Without a header nothing changes.
+  void AlignHeader(const HeaderPlacement& placement = {});
 
  protected:
   Axis();
@@ -79,7 +75,6 @@ class ORVANE_API Axis : public host::Object, public ISceneRoot, public virtual I
   scene::MFString& Lines() const { return m_labels.Lines(); }
 
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Transform> m_labelsTransform;
   std::shared_ptr<scene::Transform> m_headerTransform;
   TextShape m_labels{"BEGIN"};

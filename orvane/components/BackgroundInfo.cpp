@@ -8,14 +8,12 @@ namespace orvane {
 const host::TypeInfo& BackgroundInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<BackgroundInfo>("The sky behind a chart.")
-          .Property<std::int32_t>("BackgroundColor", &BackgroundInfo::BackgroundColor,
-                                  &BackgroundInfo::BackgroundColor,
-                                  {"Colour of the sky", "host RGB", "0..16777215", "0"})
+          .Color("BackgroundColor", &BackgroundInfo::BackgroundColor,
+                 &BackgroundInfo::BackgroundColor, {"Colour of the sky"})
           .Property<bool>("UseBackgroundColorFade", &BackgroundInfo::UseBackgroundColorFade,
                           &BackgroundInfo::UseBackgroundColorFade,
                           {"Whether the sky fades from black overhead through the colour to white "
-                           "below",
-                           "", "", "true"});
+                           "below"});
   return type;
 }
 

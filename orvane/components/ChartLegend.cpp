@@ -11,12 +11,11 @@
 namespace orvane {
 
 ChartLegend::ChartLegend()
-    : m_root(scene::Create<scene::Transform>()),
-      m_legendTransform(scene::Create<scene::Transform>()),
+    : m_legendTransform(scene::Create<scene::Transform>()),
       m_billboard(scene::Create<scene::Billboard>()),
       m_legend(scene::Create<scene::Legend>()) {
   m_legendTransform->children.Append(m_legend);
-  m_root->children.Append(m_legendTransform);
+  Root()->children.Append(m_legendTransform);
 }
 
 LegendKeyStyle ChartLegend::KeyStyle() const {
@@ -29,12 +28,12 @@ void ChartLegend::KeyStyle(LegendKeyStyle style) {
 
 void ChartLegend::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
-  const auto parts = Contents().Items();
-  m_root->children.Clear();
-  m_billboard->children.Clear();
-  if (isBillboarded) m_root->children.Append(m_billboard);
+  using List = scene::MFNode::List;
+  auto parts = Contents().Items();
+  auto top = isBillboarded ? List{m_billboard} : std::move(parts);
+  Root()->children.Items(std::move(top));
+  m_billboard->children.Items(isBillboarded ? std::move(parts) : List());
   m_isBillboarded = isBillboarded;
-  for (const auto& part : parts) Contents().Append(part);
 }
 
 void ChartLegend::TextHeight(float height) {
@@ -65,7 +64,7 @@ void ChartLegend::ClearEntries() {
 }
 
 scene::MFNode& ChartLegend::Contents() const {
-  return m_isBillboarded ? m_billboard->children : m_root->children;
+  return m_isBillboarded ? m_billboard->children : Root()->children;
 }
 
 }  // namespace orvane

@@ -16,7 +16,7 @@
 namespace orvane {
 
 /// Entries are stored newest first, so that the first one added is drawn on top.
-class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
+class ORVANE_API ChartLegend : public host::Object, public RootedAt<scene::Transform> {
  public:
   /// Default BOX_STYLE; values outside the enumeration are ignored.
   LegendKeyStyle KeyStyle() const;
@@ -32,11 +32,8 @@ class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
   std::int32_t TextColor() const { return m_legend->textColor.Value(); }
   void TextColor(std::int32_t rgb) { m_legend->textColor.Value(rgb); }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
   /// What turns the legend while IsBillboarded is true.
-  std::shared_ptr<scene::Billboard> Board() const { return m_billboard; }
+  const std::shared_ptr<scene::Billboard>& BillboardNode() const { return m_billboard; }
 
  protected:
   ChartLegend();
@@ -59,7 +56,6 @@ class ORVANE_API ChartLegend : public host::Object, public ISceneRoot {
   /// Fits what stands beside the entries to a new height and gap; raises before anything changes.
   virtual void Resize(float /*textHeight*/, float /*gap*/) {}
 
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Transform> m_legendTransform;
   std::shared_ptr<scene::Billboard> m_billboard;
   std::shared_ptr<scene::Legend> m_legend;

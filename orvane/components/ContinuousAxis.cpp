@@ -16,12 +16,12 @@ const host::TypeInfo& ContinuousAxis::Type() const {
       host::Describe<ContinuousAxis>("An axis of values.")
           .With(DescribeAxis<ContinuousAxis>)
           .Property<float>("Min", &ContinuousAxis::Min, &ContinuousAxis::Min,
-                           {"Value at the low end", "data units", "finite", "0"})
+                           {"Value at the low end", "data units"})
           .Property<float>("Max", &ContinuousAxis::Max, &ContinuousAxis::Max,
-                           {"Value at the high end", "data units", "finite", "0"})
-          .Property<std::string>(
-              "NumericFormat", &ContinuousAxis::NumericFormat, &ContinuousAxis::NumericFormat,
-              {"Picture of the labels, used when they are next made", "", "", "\"###,##0.00\""});
+                           {"Value at the high end", "data units"})
+          .Property<std::string>("NumericFormat", &ContinuousAxis::NumericFormat,
+                                 &ContinuousAxis::NumericFormat,
+                                 {"Picture of the labels, used when they are next made"});
   return type;
 }
 

@@ -8,21 +8,9 @@
 
 namespace orvane {
 
-/// What a chart sets on a value axis at export.
-class ORVANE_API IContinuousAxis : public virtual IAxis {
- public:
-  /// Number of labels, unchecked; a let makes the labels anew. 1 raises DivisionByZero and leaves
-  /// the labels.
-  virtual std::int16_t Count() const = 0;
-  virtual void Count(std::int16_t count) = 0;
-  /// Direction of the labels; a change makes them anew.
-  virtual LabelingOrder Order() const = 0;
-  virtual void Order(LabelingOrder order) = 0;
-};
-
 /// Where labels cannot be made of Min, Max, Count or Order, their let raises the error when it has
 /// stored the new value, and the old labels stay.
-class ORVANE_API ContinuousAxis final : public Axis, public IContinuousAxis {
+class ORVANE_API ContinuousAxis final : public Axis {
  public:
   static constexpr const char* kClassName = "ContinuousAxis";
   const host::TypeInfo& Type() const override;
@@ -37,10 +25,13 @@ class ORVANE_API ContinuousAxis final : public Axis, public IContinuousAxis {
   std::string NumericFormat() const { return m_numericFormat; }
   void NumericFormat(const std::string& picture) { m_numericFormat = picture; }
 
-  std::int16_t Count() const override { return m_count; }
-  void Count(std::int16_t count) override;
-  LabelingOrder Order() const override { return m_order; }
-  void Order(LabelingOrder order) override;
+  /// Number of labels, unchecked; a let makes the labels anew. 1 raises DivisionByZero and leaves
+  /// the labels.
+  std::int16_t Count() const { return m_count; }
+  void Count(std::int16_t count);
+  /// Direction of the labels; a change makes them anew.
+  LabelingOrder Order() const { return m_order; }
+  void Order(LabelingOrder order);
 
  private:
   void RegenerateLabels();

@@ -10,15 +10,13 @@ template <class L>
 void DescribeLegend(host::Describe<L>& legend) {
   legend
       .template Property<LegendKeyStyle>("KeyStyle", &L::KeyStyle, &L::KeyStyle,
-                                         {"Shape of the keys", "", "", "BOX_STYLE"})
+                                         {"Shape of the keys"})
       .template Property<bool>("IsBillboarded", &L::IsBillboarded, &L::IsBillboarded,
-                               {"Whether the legend turns to face the viewer", "", "", "false"})
-      .template Property<float>(
-          "TextHeight", &L::TextHeight, &L::TextHeight,
-          {"Height of the texts; also sets the gap between entries", "scene units", "> 0", "1"})
-      .template Property<std::int32_t>(
-          "TextColor", &L::TextColor, &L::TextColor,
-          {"Colour of the texts", "host RGB", "0..16777215", "16777215"});
+                               {"Whether the legend turns to face the viewer"})
+      .template Property<float>("TextHeight", &L::TextHeight, &L::TextHeight,
+                                {"Height of the texts; also sets the gap between entries",
+                                 "scene units", host::kPositive})
+      .Color("TextColor", &L::TextColor, &L::TextColor, {"Colour of the texts"});
 }
 
 }  // namespace orvane

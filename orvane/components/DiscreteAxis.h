@@ -7,15 +7,7 @@
 
 namespace orvane {
 
-/// What a chart sets on a category axis at export.
-class ORVANE_API IDiscreteAxis : public virtual IAxis {
- public:
-  /// Number of labels. A let removes labels behind the given number; it adds none.
-  virtual std::int16_t LabelCount() const = 0;
-  virtual void LabelCount(std::int16_t count) = 0;
-};
-
-class ORVANE_API DiscreteAxis final : public Axis, public IDiscreteAxis {
+class ORVANE_API DiscreteAxis final : public Axis {
  public:
   static constexpr const char* kClassName = "DiscreteAxis";
   const host::TypeInfo& Type() const override;
@@ -23,8 +15,9 @@ class ORVANE_API DiscreteAxis final : public Axis, public IDiscreteAxis {
   /// The labels themselves: what is put into the list is in the scene at once.
   scene::MFString& Labels() { return Lines(); }
 
-  std::int16_t LabelCount() const override;
-  void LabelCount(std::int16_t count) override;
+  /// Number of labels. A let removes labels behind the given number; it adds none.
+  std::int16_t LabelCount() const;
+  void LabelCount(std::int16_t count);
 };
 
 }  // namespace orvane

@@ -10,23 +10,21 @@ namespace orvane {
 const host::TypeInfo& DrillDownInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<DrillDownInfo>("A row of clickable cones, each of which loads a world.")
-          .Property<std::int32_t>("ConeColor", &DrillDownInfo::ConeColor, &DrillDownInfo::ConeColor,
-                                  {"Colour of the cones", "host RGB", "0..16777215", "10843169"})
+          .Color("ConeColor", &DrillDownInfo::ConeColor, &DrillDownInfo::ConeColor,
+                 {"Colour of the cones"})
           .Property<float>("ConeRadius", &DrillDownInfo::ConeRadius, &DrillDownInfo::ConeRadius,
-                           {"Bottom radius of the cones", "scene units", "> 0", "0.3"})
+                           {"Bottom radius of the cones", "scene units", host::kPositive})
           .Property<float>("ConeHeight", &DrillDownInfo::ConeHeight, &DrillDownInfo::ConeHeight,
-                           {"Height of the cones", "scene units", "> 0", "0.6"})
+                           {"Height of the cones", "scene units", host::kPositive})
           .Property<scene::MFString>("DrillDownURL", &DrillDownInfo::DrillDownURL,
                                      {"The world of each cone; a live list"});
   return type;
 }
 
 DrillDownInfo::DrillDownInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_cones(scene::Create<scene::ConeCollection>()),
-      m_router(scene::Create<scene::Router>()) {
-  m_root->children.Append(m_cones);
-  m_root->children.Append(m_router);
+    : m_cones(scene::Create<scene::ConeCollection>()), m_router(scene::Create<scene::Router>()) {
+  Root()->children.Append(m_cones);
+  Root()->children.Append(m_router);
   ConeColor(0xA57421);
   constexpr float kHalfTurn = 3.14159F;
   m_cones->coneRotation.SetValue(1, 0, 0, kHalfTurn);

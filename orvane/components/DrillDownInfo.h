@@ -11,25 +11,8 @@
 
 namespace orvane {
 
-/// What a chart does with a row of cones at export.
-class ORVANE_API IDrillDownInfo {
- public:
-  virtual ~IDrillDownInfo() = default;
-
-  virtual std::shared_ptr<scene::Node> ConeCollectionNode() const = 0;
-  virtual std::shared_ptr<scene::Router> RouterNode() const = 0;
-  /// Number of cones, >= 1. Default 2.
-  virtual std::int16_t Count() const = 0;
-  virtual void Count(std::int16_t count) = 0;
-  /// Distance between neighbouring cones in scene units, > 0. Default 1.
-  virtual float Spacing() const = 0;
-  virtual void Spacing(float spacing) = 0;
-};
-
 /// Cones stand along the root's x axis from its origin and point down; a router holds one URL each.
-class ORVANE_API DrillDownInfo final : public host::Object,
-                                       public ISceneRoot,
-                                       public IDrillDownInfo {
+class ORVANE_API DrillDownInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "DrillDownInfo";
   const host::TypeInfo& Type() const override;
@@ -48,21 +31,18 @@ class ORVANE_API DrillDownInfo final : public host::Object,
   /// The URLs themselves, one a cone; a live list, not held against Count.
   scene::MFString& DrillDownURL() { return m_router->urls; }
 
-  std::shared_ptr<scene::Node> ConeCollectionNode() const override { return m_cones; }
-  std::shared_ptr<scene::Router> RouterNode() const override { return m_router; }
-  std::int16_t Count() const override { return m_count; }
-  void Count(std::int16_t count) override;
-  float Spacing() const override { return m_spacing; }
-  void Spacing(float spacing) override;
+  std::shared_ptr<scene::Node> ConeCollectionNode() const { return m_cones; }
+  std::shared_ptr<scene::Router> RouterNode() const { return m_router; }
+  /// Number of cones, >= 1. Default 2.
+  std::int16_t Count() const { return m_count; }
+  void Count(std::int16_t count);
+  /// Distance between neighbouring cones in scene units, > 0. Default 1.
+  float Spacing() const { return m_spacing; }
+  void Spacing(float spacing);
   /// Sets `count` >= 1 and `spacing` > 0 at once: all cones move or none.
   void LayOutCones(std::int16_t count, float spacing);
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::ConeCollection> m_cones;
   std::shared_ptr<scene::Router> m_router;
   std::int16_t m_count = 0;

@@ -9,33 +9,32 @@ namespace orvane {
 const host::TypeInfo& DrillUpInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<DrillUpInfo>("A clickable cone that loads another world.")
-          .Property<std::int32_t>("ConeColor", &DrillUpInfo::ConeColor, &DrillUpInfo::ConeColor,
-                                  {"Colour of the cone", "host RGB", "0..16777215", "11237420"})
+          .Color("ConeColor", &DrillUpInfo::ConeColor, &DrillUpInfo::ConeColor,
+                 {"Colour of the cone"})
           .Property<float>("ConeRadius", &DrillUpInfo::ConeRadius, &DrillUpInfo::ConeRadius,
-                           {"Bottom radius of the cone", "scene units", "> 0", "0.5"})
+                           {"Bottom radius of the cone", "scene units", host::kPositive})
           .Property<float>("ConeHeight", &DrillUpInfo::ConeHeight, &DrillUpInfo::ConeHeight,
-                           {"Height of the cone", "scene units", "> 0", "1"})
+                           {"Height of the cone", "scene units", host::kPositive})
           .Property<float>("ConeTransparency", &DrillUpInfo::ConeTransparency,
                            &DrillUpInfo::ConeTransparency,
-                           {"Transparency of the cone", "", "0..1", "0"})
+                           {"Transparency of the cone", "", host::kUnit})
           .Property<std::string>("URL", &DrillUpInfo::URL, &DrillUpInfo::URL,
-                                 {"World to load when the cone is clicked", "", "", "\"\""})
+                                 {"World to load when the cone is clicked"})
           .Property<std::string>("Description", &DrillUpInfo::Description,
                                  &DrillUpInfo::Description,
-                                 {"Shown while the pointer is over the cone", "", "", "\"\""});
+                                 {"Shown while the pointer is over the cone"});
   return type;
 }
 
 DrillUpInfo::DrillUpInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_shape(scene::Create<scene::Shape>()),
+    : m_shape(scene::Create<scene::Shape>()),
       m_anchor(scene::Create<scene::Anchor>()),
       m_cone(scene::Create<scene::Cone>()),
       m_appearance(scene::Create<scene::Appearance>()),
       m_material(scene::Create<scene::Material>()) {
   m_cone->bottomRadius.Value(0.5F);
   m_cone->height.Value(1.0F);
-  m_root->children.Append(m_anchor);
+  Root()->children.Append(m_anchor);
   m_anchor->children.Append(m_shape);
   m_shape->appearance.Value(m_appearance);
   m_shape->geometry.Value(m_cone);

@@ -12,7 +12,7 @@
 namespace orvane {
 
 /// One cone inside an Anchor, centred on its root's origin, pointing up.
-class ORVANE_API DrillUpInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API DrillUpInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "DrillUpInfo";
   const host::TypeInfo& Type() const override;
@@ -38,12 +38,7 @@ class ORVANE_API DrillUpInfo final : public host::Object, public ISceneRoot {
   std::string Description() const { return m_anchor->description.Value(); }
   void Description(const std::string& text) { m_anchor->description.Value(text); }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Shape> m_shape;
   std::shared_ptr<scene::Anchor> m_anchor;
   std::shared_ptr<scene::Cone> m_cone;

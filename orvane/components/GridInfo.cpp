@@ -63,38 +63,41 @@ const host::TypeInfo& GridInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<GridInfo>("The box of grid lines and walls that a chart's data stands in.")
           .Property<float>("Width", &GridInfo::Width, &GridInfo::Width,
-                           {"Extent along X; keeps the cell count", "scene units",
-                            "> 0; cells >= 1.17549e-38", "8"})
+                           {"Extent along X, of cells from 1.17549e-38 up; keeps their count",
+                            "scene units", host::kPositive})
           .Property<std::int16_t>("XAxisCellCount", &GridInfo::XAxisCellCount,
                                   &GridInfo::XAxisCellCount,
-                                  {"Cells along X; keeps Width", "", "1..32766", "4"})
+                                  {"Cells along X; keeps Width", "", host::Interval{1, 32766}})
           .Property<float>("Height", &GridInfo::Height, &GridInfo::Height,
-                           {"Extent along Y; keeps the cell count", "scene units",
-                            "> 0; cells >= 1.17549e-38", "6"})
+                           {"Extent along Y, of cells from 1.17549e-38 up; keeps their count",
+                            "scene units", host::kPositive})
           .Property<std::int16_t>("YAxisCellCount", &GridInfo::YAxisCellCount,
                                   &GridInfo::YAxisCellCount,
-                                  {"Cells along Y; keeps Height", "", "1..32766", "4"})
+                                  {"Cells along Y; keeps Height", "", host::Interval{1, 32766}})
           .Property<float>("Depth", &GridInfo::Depth, &GridInfo::Depth,
-                           {"Extent along Z; keeps the cell count", "scene units",
-                            "> 0; cells >= 1.17549e-38", "8"})
+                           {"Extent along Z, of cells from 1.17549e-38 up; keeps their count",
+                            "scene units", host::kPositive})
           .Property<std::int16_t>("ZAxisCellCount", &GridInfo::ZAxisCellCount,
                                   &GridInfo::ZAxisCellCount,
-                                  {"Cells along Z; keeps Depth", "", "1..32766", "4"})
-          .Property<std::int32_t>("LineColor", &GridInfo::LineColor, &GridInfo::LineColor,
-                                  {"Colour of the lines", "host RGB", "0..16777215", "0"})
-          .Property<std::int32_t>("WallColor", &GridInfo::WallColor, &GridInfo::WallColor,
-                                  {"Colour of the walls", "host RGB", "0..16777215", "16777215"})
+                                  {"Cells along Z; keeps Depth", "", host::Interval{1, 32766}})
+          .Color("LineColor", &GridInfo::LineColor, &GridInfo::LineColor, {"Colour of the lines"})
+          .Color("WallColor", &GridInfo::WallColor, &GridInfo::WallColor, {"Colour of the walls"})
           .Property<float>("Transparency", &GridInfo::Transparency, &GridInfo::Transparency,
-                           {"Transparency of the walls", "", "0..1", "0"});
+                           {"Transparency of the walls", "", host::kUnit})
+          .Event("XCellCountChanged", &GridInfo::XCellCountChanged, {"newCount"},
+                 "A let of XAxisCellCount has changed the grid")
+          .Event("YCellCountChanged", &GridInfo::YCellCountChanged, {"newCount"},
+                 "A let of YAxisCellCount has changed the grid")
+          .Event("ZCellCountChanged", &GridInfo::ZCellCountChanged, {"newCount"},
+                 "A let of ZAxisCellCount has changed the grid");
   return type;
 }
 
 GridInfo::GridInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_grid(scene::Create<scene::ChartGrid>()),
+    : m_grid(scene::Create<scene::ChartGrid>()),
       m_wallAppearance(scene::Create<scene::Appearance>()),
       m_wallMaterial(scene::Create<scene::Material>()) {
-  m_root->children.Append(m_grid);
+  Root()->children.Append(m_grid);
   m_grid->wallAppearance.Value(m_wallAppearance);
   m_wallAppearance->material.Value(m_wallMaterial);
   LineColor(0);

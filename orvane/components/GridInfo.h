@@ -17,7 +17,7 @@ namespace orvane {
 /// Extent = spacing x cells along each axis; the node's own fields are the only store. A cell count
 /// of 32767 raises Overflow: its line count does not fit 16 bits. So does an extent or a count that
 /// makes cells smaller than 1.17549e-38, the least float of full precision.
-class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API GridInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "GridInfo";
   const host::TypeInfo& Type() const override;
@@ -66,10 +66,7 @@ class ORVANE_API GridInfo final : public host::Object, public ISceneRoot {
   host::Event<std::int16_t> XCellCountFollowed;
   host::Event<std::int16_t> ZCellCountFollowed;
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::ChartGrid> m_grid;
   std::shared_ptr<scene::Appearance> m_wallAppearance;
   std::shared_ptr<scene::Material> m_wallMaterial;

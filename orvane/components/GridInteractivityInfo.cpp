@@ -12,23 +12,22 @@ const host::TypeInfo& GridInteractivityInfo::Type() const {
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Info::DrillUpProps,
                                                   {"The drill-up cone"})
           .Property<bool>("UseDrillUp", &Info::UseDrillUp, &Info::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillDownInfo>>(
               "XAxisDrillDownProps", &Info::XAxisDrillDownProps, {"The cones along the X axis"})
           .Property<std::shared_ptr<DrillDownInfo>>(
               "ZAxisDrillDownProps", &Info::ZAxisDrillDownProps, {"The cones along the Z axis"})
           .Property<bool>("UseXAxisDrillDown", &Info::UseXAxisDrillDown, &Info::UseXAxisDrillDown,
-                          {"Whether the X cones are in the scene", "", "", "false"})
+                          {"Whether the X cones are in the scene"})
           .Property<bool>("UseZAxisDrillDown", &Info::UseZAxisDrillDown, &Info::UseZAxisDrillDown,
-                          {"Whether the Z cones are in the scene", "", "", "false"});
+                          {"Whether the Z cones are in the scene"});
   return type;
 }
 
 GridInteractivityInfo::GridInteractivityInfo()
     : m_drillUp(std::make_shared<DrillUpInfo>()),
       m_xDrillDown(std::make_shared<DrillDownInfo>()),
-      m_zDrillDown(std::make_shared<DrillDownInfo>()),
-      m_root(scene::Create<scene::Group>()) {}
+      m_zDrillDown(std::make_shared<DrillDownInfo>()) {}
 
 void GridInteractivityInfo::UseDrillUp(bool use) { Switch(m_usesDrillUp, use, *m_drillUp); }
 
@@ -43,9 +42,9 @@ void GridInteractivityInfo::UseZAxisDrillDown(bool use) {
 void GridInteractivityInfo::Switch(bool& flag, bool use, const ISceneRoot& part) {
   if (use == flag) return;
   if (use) {
-    m_root->children.Append(part.RootNode());
+    Root()->children.Append(part.RootNode());
   } else {
-    m_root->children.Remove(part.RootNode());
+    Root()->children.Remove(part.RootNode());
   }
   flag = use;
 }

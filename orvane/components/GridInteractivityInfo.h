@@ -11,7 +11,7 @@
 namespace orvane {
 
 /// Its Group holds the parts that are switched on, in the order in which they were.
-class ORVANE_API GridInteractivityInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API GridInteractivityInfo final : public host::Object, public RootedAt<scene::Group> {
  public:
   static constexpr const char* kClassName = "GridInteractivityInfo";
   const host::TypeInfo& Type() const override;
@@ -29,15 +29,12 @@ class ORVANE_API GridInteractivityInfo final : public host::Object, public IScen
   bool UseZAxisDrillDown() const { return m_usesZDrillDown; }
   void UseZAxisDrillDown(bool use);
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
  private:
   void Switch(bool& flag, bool use, const ISceneRoot& part);
 
   std::shared_ptr<DrillUpInfo> m_drillUp;
   std::shared_ptr<DrillDownInfo> m_xDrillDown;
   std::shared_ptr<DrillDownInfo> m_zDrillDown;
-  std::shared_ptr<scene::Group> m_root;
   bool m_usesDrillUp = false;
   bool m_usesXDrillDown = false;
   bool m_usesZDrillDown = false;

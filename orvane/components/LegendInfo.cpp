@@ -20,7 +20,7 @@ const host::TypeInfo& LegendInfo::Type() const {
           .With(DescribeLegend<LegendInfo>)
           .Property<bool>("UseSeriesToggle", &LegendInfo::UseSeriesToggle,
                           &LegendInfo::UseSeriesToggle,
-                          {"Whether check boxes switch series on and off", "", "", "false"});
+                          {"Whether check boxes switch series on and off"});
   return type;
 }
 
@@ -30,13 +30,14 @@ LegendInfo::LegendInfo() : m_toggles(std::make_shared<SeriesToggleInfo>()) {
 
 void LegendInfo::UseSeriesToggle(bool use) {
   if (use == m_usesToggles) return;
-  ShiftEntries(use ? RoomForBoxes(m_toggles->Height()) : 0);
-  m_usesToggles = use;
+  const float room = use ? RoomForBoxes(m_toggles->Height()) : 0;
   if (use) {
     Contents().Append(m_toggles->RootNode());
   } else {
     Contents().Remove(m_toggles->RootNode());
   }
+  m_usesToggles = use;
+  ShiftEntries(room);
 }
 
 void LegendInfo::AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp,

@@ -10,24 +10,9 @@
 
 namespace orvane {
 
-/// What a chart does with its legend at export.
-class ORVANE_API ILegendInfo {
- public:
-  virtual ~ILegendInfo() = default;
-
-  /// Adds an entry below those there are, and its check box.
-  virtual void AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp,
-                              const std::string& newText) = 0;
-  /// Removes all entries and check boxes.
-  virtual void ClearLegend() = 0;
-  /// The check box of the entry that was added as number `index`, 1...
-  virtual std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const = 0;
-  virtual std::shared_ptr<scene::Node> BillboardNode() const = 0;
-};
-
 /// Its chart fills it at export. Check boxes, when they are in use, stand to the left of the
 /// entries at the same pitch and are as high as the texts.
-class ORVANE_API LegendInfo final : public ChartLegend, public ILegendInfo {
+class ORVANE_API LegendInfo final : public ChartLegend {
  public:
   static constexpr const char* kClassName = "LegendInfo";
   const host::TypeInfo& Type() const override;
@@ -38,11 +23,12 @@ class ORVANE_API LegendInfo final : public ChartLegend, public ILegendInfo {
   bool UseSeriesToggle() const { return m_usesToggles; }
   void UseSeriesToggle(bool use);
 
-  void AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp,
-                      const std::string& newText) override;
-  void ClearLegend() override;
-  std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const override;
-  std::shared_ptr<scene::Node> BillboardNode() const override { return Board(); }
+  /// Adds an entry below those there are, and its check box.
+  void AddLegendEntry(const std::shared_ptr<scene::Appearance>& newApp, const std::string& newText);
+  /// Removes all entries and check boxes.
+  void ClearLegend();
+  /// The check box of the entry that was added as number `index`, 1...
+  std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const;
 
   /// As AddLegendEntry, but for `ShowPending`, which takes in all entries since the last in one go:
   /// one by one, many take long. Their check boxes are there at once.

@@ -10,22 +10,21 @@ const host::TypeInfo& LightCollection::Type() const {
   using Collection = LightCollection;
   static const host::TypeInfo type =
       host::Describe<Collection>("The lights of a chart's world.")
-          .Method("GetLightSource", &Collection::GetLightSource, {"Index"},
-                  {"One light", "", "1..Count"})
+          .Method("GetLightSource", &Collection::GetLightSource, {{"Index", host::UpTo("Count")}},
+                  {"One light"})
           .Method("AddLightSource", &Collection::AddLightSource, {}, {"Adds a point light"})
           .Method("ClearLightSources", &Collection::ClearLightSources, {}, {"Removes all lights"})
-          .Property<std::int16_t>("Count", &Collection::Count, {"Number of lights", "", "", "0"})
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of lights"})
           .Property<bool>("UseHeadlight", &Collection::UseHeadlight, &Collection::UseHeadlight,
-                          {"Whether the viewer carries a light", "", "", "true"});
+                          {"Whether the viewer carries a light"});
   return type;
 }
 
 LightCollection::LightCollection()
-    : m_root(scene::Create<scene::Group>()),
-      m_lights(scene::Create<scene::Group>()),
+    : m_lights(scene::Create<scene::Group>()),
       m_navigation(scene::Create<scene::NavigationInfo>()) {
-  m_root->children.Append(m_navigation);
-  m_root->children.Append(m_lights);
+  Root()->children.Append(m_navigation);
+  Root()->children.Append(m_lights);
 }
 
 std::shared_ptr<scene::PointLight> LightCollection::GetLightSource(std::int16_t index) const {

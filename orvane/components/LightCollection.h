@@ -11,7 +11,7 @@
 namespace orvane {
 
 /// Point lights in order of addition, and the viewer's headlight.
-class ORVANE_API LightCollection final : public host::Object, public ISceneRoot {
+class ORVANE_API LightCollection final : public host::Object, public RootedAt<scene::Group> {
  public:
   static constexpr const char* kClassName = "LightCollection";
   const host::TypeInfo& Type() const override;
@@ -28,10 +28,10 @@ class ORVANE_API LightCollection final : public host::Object, public ISceneRoot 
   bool UseHeadlight() const { return m_navigation->headlight.Value(); }
   void UseHeadlight(bool use) { m_navigation->headlight.Value(use); }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
+  /// How viewers move, for C++.
+  const std::shared_ptr<scene::NavigationInfo>& Navigation() const { return m_navigation; }
 
  private:
-  std::shared_ptr<scene::Group> m_root;
   std::shared_ptr<scene::Group> m_lights;
   std::shared_ptr<scene::NavigationInfo> m_navigation;
 };

@@ -16,7 +16,7 @@ namespace orvane {
 /// Colours and size of texts that pop up over a shape of the PROTO `P`. The shape is in the scene
 /// only while UsePopups is true.
 template <class P>
-class PopupLook : public host::Object, public ISceneRoot {
+class PopupLook : public host::Object, public RootedAt<scene::Transform> {
  public:
   /// Host RGB colours, 0..0xFFFFFF. Default black on pale yellow, with a dark grey frame.
   std::int32_t TextColor() const { return m_shape->textColor.Value(); }
@@ -35,22 +35,17 @@ class PopupLook : public host::Object, public ISceneRoot {
   bool UsePopups() const { return m_usesPopups; }
   void UsePopups(bool use) {
     if (use == m_usesPopups) return;
-    m_root->children.Clear();
-    if (use) m_root->children.Append(m_shape);
+    this->Root()->children.Clear();
+    if (use) this->Root()->children.Append(m_shape);
     m_usesPopups = use;
   }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; what has the popups may place it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
-
  protected:
-  PopupLook() : m_root(scene::Create<scene::Transform>()), m_shape(scene::Create<P>()) {}
+  PopupLook() : m_shape(scene::Create<P>()) {}
 
   const std::shared_ptr<P>& Shape() const { return m_shape; }
 
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<P> m_shape;
   bool m_usesPopups = false;
 };
@@ -58,18 +53,14 @@ class PopupLook : public host::Object, public ISceneRoot {
 /// TextColor, BackgroundColor, BorderColor, TextHeight and UsePopups.
 template <class Info>
 void DescribePopupLook(host::Describe<Info>& info) {
-  info.template Property<std::int32_t>("TextColor", &Info::TextColor, &Info::TextColor,
-                                       {"Colour of the texts", "host RGB", "0..16777215", "0"})
-      .template Property<std::int32_t>(
-          "BackgroundColor", &Info::BackgroundColor, &Info::BackgroundColor,
-          {"Colour behind the texts", "host RGB", "0..16777215", "14745599"})
-      .template Property<std::int32_t>(
-          "BorderColor", &Info::BorderColor, &Info::BorderColor,
-          {"Colour of the frame", "host RGB", "0..16777215", "3355443"})
+  info.Color("TextColor", &Info::TextColor, &Info::TextColor, {"Colour of the texts"})
+      .Color("BackgroundColor", &Info::BackgroundColor, &Info::BackgroundColor,
+             {"Colour behind the texts"})
+      .Color("BorderColor", &Info::BorderColor, &Info::BorderColor, {"Colour of the frame"})
       .template Property<float>("TextHeight", &Info::TextHeight, &Info::TextHeight,
-                                {"Height of the texts", "scene units", "> 0", "0.5"})
+                                {"Height of the texts", "scene units", host::kPositive})
       .template Property<bool>("UsePopups", &Info::UsePopups, &Info::UsePopups,
-                               {"Whether texts pop up", "", "", "false"});
+                               {"Whether texts pop up"});
 }
 
 }  // namespace orvane

@@ -12,9 +12,8 @@ const host::TypeInfo& SeriesPopupInfo::Type() const {
       host::Describe<Info>("The texts that pop up when a viewer points at the values of a series.")
           .Property<scene::MFString>("PopupText", &Info::PopupText,
                                      {"The text of each value; a live list"})
-          .Property<VRMLPopupAlignment>(
-              "Alignment", &Info::Alignment, &Info::Alignment,
-              {"Where a text stands, seen from its value", "", "", "VRML_TOP"})
+          .Property<VRMLPopupAlignment>("Alignment", &Info::Alignment, &Info::Alignment,
+                                        {"Where a text stands, seen from its value"})
           .With(DescribePopupLook<Info>);
   return type;
 }

@@ -9,30 +9,8 @@
 
 namespace orvane {
 
-/// How a series shapes its strip. Lengths are in scene units.
-class ORVANE_API ISeriesPopupInfo {
- public:
-  virtual ~ISeriesPopupInfo() = default;
-
-  /// Number of values, >= 1.
-  virtual std::int16_t Count() const = 0;
-  virtual void Count(std::int16_t count) = 0;
-  /// Reach of the strip around a value, > 0.
-  virtual float radius() const = 0;
-  virtual void radius(float value) = 0;
-  /// Extent of the strip along z, > 0.
-  virtual float Depth() const = 0;
-  virtual void Depth(float depth) = 0;
-  /// The heights themselves, which the series fills.
-  virtual scene::MFFloat& Height() = 0;
-  /// Distance between neighbouring values along x, > 0.
-  virtual float Spacing() const = 0;
-  virtual void Spacing(float spacing) = 0;
-};
-
-/// A strip along the series.
-class ORVANE_API SeriesPopupInfo final : public PopupLook<scene::PopupStrip>,
-                                         public ISeriesPopupInfo {
+/// A strip along the series, which shapes it. Lengths are in scene units.
+class ORVANE_API SeriesPopupInfo final : public PopupLook<scene::PopupStrip> {
  public:
   static constexpr const char* kClassName = "SeriesPopupInfo";
   const host::TypeInfo& Type() const override;
@@ -46,15 +24,20 @@ class ORVANE_API SeriesPopupInfo final : public PopupLook<scene::PopupStrip>,
   VRMLPopupAlignment Alignment() const;
   void Alignment(VRMLPopupAlignment alignment);
 
-  std::int16_t Count() const override;
-  void Count(std::int16_t count) override;
-  float radius() const override { return Shape()->stripRadius.Value(); }
-  void radius(float value) override;
-  float Depth() const override { return Shape()->stripDepth.Value(); }
-  void Depth(float depth) override;
-  scene::MFFloat& Height() override { return Shape()->pointHeights; }
-  float Spacing() const override { return Shape()->pointSpacing.Value(); }
-  void Spacing(float spacing) override;
+  /// Number of values, >= 1.
+  std::int16_t Count() const;
+  void Count(std::int16_t count);
+  /// Reach of the strip around a value, > 0.
+  float radius() const { return Shape()->stripRadius.Value(); }
+  void radius(float value);
+  /// Extent of the strip along z, > 0.
+  float Depth() const { return Shape()->stripDepth.Value(); }
+  void Depth(float depth);
+  /// The heights themselves, which the series fills.
+  scene::MFFloat& Height() { return Shape()->pointHeights; }
+  /// Distance between neighbouring values along x, > 0.
+  float Spacing() const { return Shape()->pointSpacing.Value(); }
+  void Spacing(float spacing);
 };
 
 }  // namespace orvane

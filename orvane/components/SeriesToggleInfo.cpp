@@ -16,21 +16,18 @@ using host::Single;
 const host::TypeInfo& SeriesToggleInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<SeriesToggleInfo>("A column of check boxes, one a legend entry.")
-          .Method("Get1CheckBox", &SeriesToggleInfo::Get1CheckBox, {"Index"},
-                  {"One check box", "", "1..Count"})
+          .Method("Get1CheckBox", &SeriesToggleInfo::Get1CheckBox, {{"Index", host::UpTo("Count")}},
+                  {"One check box"})
           .Method("AddCheckBox", &SeriesToggleInfo::AddCheckBox, {}, {"Adds a check box"})
           .Property<float>("Spacing", &SeriesToggleInfo::Spacing, &SeriesToggleInfo::Spacing,
-                           {"Gap between boxes", "scene units", "> 0", "0.5"})
+                           {"Gap between boxes", "scene units", host::kPositive})
           .Property<float>("Height", &SeriesToggleInfo::Height, &SeriesToggleInfo::Height,
-                           {"Size of each box", "scene units", "> 0", "1"})
+                           {"Size of each box", "scene units", host::kPositive})
           .Method("ClearCheckBoxes", &SeriesToggleInfo::ClearCheckBoxes, {},
                   {"Removes all check boxes"})
-          .Property<std::int16_t>("Count", &SeriesToggleInfo::Count,
-                                  {"Number of check boxes", "", "", "0"});
+          .Property<std::int16_t>("Count", &SeriesToggleInfo::Count, {"Number of check boxes"});
   return type;
 }
-
-SeriesToggleInfo::SeriesToggleInfo() : m_root(scene::Create<scene::Transform>()) {}
 
 std::shared_ptr<scene::Node> SeriesToggleInfo::Get1CheckBox(std::int16_t index) const {
   host::Require(index >= 1 && index <= Count(), "Invalid index into the list of check boxes");
@@ -50,7 +47,7 @@ void SeriesToggleInfo::MakeCheckBox() {
   box->SetDefName("CHECK_BOX_" + std::to_string(number));
   auto transform = scene::Create<scene::Transform>();
   transform->children.Append(box);
-  m_root->children.Append(transform);
+  Root()->children.Append(transform);
   m_boxes.push_back(std::move(box));
   m_transforms.push_back(std::move(transform));
 }
@@ -68,7 +65,7 @@ void SeriesToggleInfo::Height(float height) {
 void SeriesToggleInfo::ClearCheckBoxes() {
   m_boxes.clear();
   m_transforms.clear();
-  m_root->children.Clear();
+  Root()->children.Clear();
 }
 
 std::int16_t SeriesToggleInfo::Count() const {

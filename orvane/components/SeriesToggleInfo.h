@@ -13,12 +13,10 @@ namespace orvane {
 
 /// Box i of n stands at y = (n - i) x (Height + Spacing), in 32-bit floats: the first one is the
 /// topmost.
-class ORVANE_API SeriesToggleInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API SeriesToggleInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "SeriesToggleInfo";
   const host::TypeInfo& Type() const override;
-
-  SeriesToggleInfo();
 
   /// Check box `index`, 1..Count.
   std::shared_ptr<scene::Node> Get1CheckBox(std::int16_t index) const;
@@ -40,10 +38,7 @@ class ORVANE_API SeriesToggleInfo final : public host::Object, public ISceneRoot
   /// Sets both at once: all boxes move or none.
   void Resize(float height, float spacing);
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::vector<std::shared_ptr<scene::CheckBox>> m_boxes;
   std::vector<std::shared_ptr<scene::Transform>> m_transforms;
   float m_height = 1.0F;

@@ -10,34 +10,32 @@ const host::TypeInfo& TextInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<TextInfo>("A line of text, fixed in the world or turning to face the viewer.")
           .Property<bool>("IsBillboarded", &TextInfo::IsBillboarded, &TextInfo::IsBillboarded,
-                          {"Whether the text turns to face the viewer", "", "", "false"})
+                          {"Whether the text turns to face the viewer"})
           .Property<std::string>("Text", &TextInfo::Text, &TextInfo::Text,
-                                 {"The line; spaces around it are dropped", "", "", "\"\""})
-          .Property<std::int32_t>("TextColor", &TextInfo::TextColor, &TextInfo::TextColor,
-                                  {"Colour of the text", "host RGB", "0..16777215", "16777215"})
+                                 {"The line; spaces around it are dropped"})
+          .Color("TextColor", &TextInfo::TextColor, &TextInfo::TextColor, {"Colour of the text"})
           .Property<VRMLFontFamily>("TextFont", &TextInfo::TextFont, &TextInfo::TextFont,
-                                    {"Font family", "", "", "VRML_SERIF"})
+                                    {"Font family"})
           .Property<VRMLFontStyle>("TextStyle", &TextInfo::TextStyle, &TextInfo::TextStyle,
-                                   {"Font style", "", "", "VRML_PLAIN"})
+                                   {"Font style"})
           .Property<float>("TextHeight", &TextInfo::TextHeight, &TextInfo::TextHeight,
-                           {"Height of the line", "scene units", "> 0", "1"});
+                           {"Height of the line", "scene units", host::kPositive});
   return type;
 }
 
-TextInfo::TextInfo()
-    : m_root(scene::Create<scene::Transform>()), m_billboard(scene::Create<scene::Billboard>()) {
-  m_root->children.Append(m_line.Node());
+TextInfo::TextInfo() : m_billboard(scene::Create<scene::Billboard>()) {
+  Root()->children.Append(m_line.Node());
 }
 
 void TextInfo::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
-  m_root->children.Clear();
+  Root()->children.Clear();
   m_billboard->children.Clear();
   if (isBillboarded) {
-    m_root->children.Append(m_billboard);
+    Root()->children.Append(m_billboard);
     m_billboard->children.Append(m_line.Node());
   } else {
-    m_root->children.Append(m_line.Node());
+    Root()->children.Append(m_line.Node());
   }
   m_isBillboarded = isBillboarded;
 }

@@ -12,7 +12,7 @@
 namespace orvane {
 
 /// One line, centred on its root's origin, fixed in the world or turning to face the viewer.
-class ORVANE_API TextInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API TextInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "TextInfo";
   const host::TypeInfo& Type() const override;
@@ -43,12 +43,10 @@ class ORVANE_API TextInfo final : public host::Object, public ISceneRoot {
   float TextHeight() const { return m_line.Height(); }
   void TextHeight(float height);
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  /// What turns the text while IsBillboarded is true.
+  const std::shared_ptr<scene::Billboard>& BillboardNode() const { return m_billboard; }
 
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Billboard> m_billboard;
   TextShape m_line{"MIDDLE"};
   bool m_isBillboarded = false;

@@ -10,27 +10,24 @@ const host::TypeInfo& ViewpointCollection::Type() const {
   using Collection = ViewpointCollection;
   static const host::TypeInfo type =
       host::Describe<Collection>("The places from which a viewer can look at a chart.")
-          .Method("GetViewpoint", &Collection::GetViewpoint, {"Index"},
-                  {"One viewpoint", "", "1..Count"})
+          .Method("GetViewpoint", &Collection::GetViewpoint, {{"Index", host::UpTo("Count")}},
+                  {"One viewpoint"})
           .Method("AddViewpoint", &Collection::AddViewpoint, {}, {"Adds a viewpoint"})
           .Method("ClearViewpoints", &Collection::ClearViewpoints, {}, {"Removes all viewpoints"})
-          .Property<std::int16_t>("Count", &Collection::Count,
-                                  {"Number of viewpoints", "", "", "0"});
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of viewpoints"});
   return type;
 }
 
-ViewpointCollection::ViewpointCollection() : m_root(scene::Create<scene::Group>()) {}
-
 std::shared_ptr<scene::Viewpoint> ViewpointCollection::GetViewpoint(std::int16_t index) const {
-  return std::dynamic_pointer_cast<scene::Viewpoint>(m_root->children.Item(index));
+  return std::dynamic_pointer_cast<scene::Viewpoint>(Root()->children.Item(index));
 }
 
 std::shared_ptr<scene::Viewpoint> ViewpointCollection::AddViewpoint() {
   auto viewpoint = scene::Create<scene::Viewpoint>();
-  m_root->children.Append(viewpoint);
+  Root()->children.Append(viewpoint);
   return viewpoint;
 }
 
-std::int16_t ViewpointCollection::Count() const { return host::Int16(m_root->children.Count()); }
+std::int16_t ViewpointCollection::Count() const { return host::Int16(Root()->children.Count()); }
 
 }  // namespace orvane

@@ -11,24 +11,19 @@
 namespace orvane {
 
 /// Viewpoints in order of addition; a world opens at the first one.
-class ORVANE_API ViewpointCollection final : public host::Object, public ISceneRoot {
+class ORVANE_API ViewpointCollection final : public host::Object, public RootedAt<scene::Group> {
  public:
   static constexpr const char* kClassName = "ViewpointCollection";
   const host::TypeInfo& Type() const override;
-
-  ViewpointCollection();
 
   /// Viewpoint `index`, 1..Count; a bad index raises ListIndex.
   std::shared_ptr<scene::Viewpoint> GetViewpoint(std::int16_t index) const;
   /// A new viewpoint with VRML97's defaults, for the host to set.
   std::shared_ptr<scene::Viewpoint> AddViewpoint();
-  void ClearViewpoints() { m_root->children.Clear(); }
+  void ClearViewpoints() { Root()->children.Clear(); }
   std::int16_t Count() const;
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
  private:
-  std::shared_ptr<scene::Group> m_root;
 };
 
 }  // namespace orvane

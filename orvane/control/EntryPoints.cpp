@@ -1,7 +1,8 @@
-/// The four entry points of the component server, which component.h documents.
+/// The entry points of the component server, which component.h documents.
 
 #include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/platform/IniFile.h"
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/server/ComponentObjects.h"
 
 #include <filesystem>
@@ -40,6 +41,8 @@ using namespace orvane;  // NOLINT(google-build-using-namespace): C names are gl
 
 extern "C" {
 
+ORVANE_API uint32_t OrvaneComponentVersion() { return 2; }
+
 ORVANE_API orvane_status DllGetClassObject(const char* class_id, orvane_class** object,
                                            orvane_error* error) {
   return host::Guarded(error, [&] {
@@ -70,6 +73,13 @@ ORVANE_API orvane_status DllRegisterServer() {
 ORVANE_API orvane_status DllUnregisterServer() {
   return host::Guarded(nullptr, [] {
     ClassesFile().Update([](host::IniText& classes) { classes.Remove(ORVANE_TEMPLATE_CTL); });
+  });
+}
+
+ORVANE_API orvane_status OrvaneWriteProtos(const char* folder, orvane_error* error) {
+  return host::Guarded(error, [&] {
+    host::RequireForC(folder != nullptr, ORVANE_ERROR_POINTER, "The folder is NULL");
+    WriteProtos(folder);
   });
 }
 

@@ -1,5 +1,6 @@
 #include "orvane/control/ObjectModel.h"
 
+#include "orvane/automation/Coercion.h"
 #include "orvane/control/OrvaneTemplateCtl.h"
 #include "orvane/scene/frmMain.h"
 
@@ -35,7 +36,34 @@ Objects Charts() {
 
 void Append(Objects& all, const Objects& more) { all.insert(all.end(), more.begin(), more.end()); }
 
+/// A value of type `type`, for people; empty for objects and rows.
+std::string TextOf(const host::Value& value, const host::ValueType& type) {
+  if (const auto* truth = value.If<bool>()) return *truth ? "true" : "false";
+  if (const auto* text = value.If<std::string>()) return '"' + *text + '"';
+  if (const auto* number = value.If<std::int32_t>()) {
+    if (type == host::kColorType) return host::ColorText(*number);
+    if (type.enumeration != nullptr) return type.enumeration->NameOf(*number);
+  }
+  const bool isNumber = value.If<std::int32_t>() || value.If<float>() || value.If<double>();
+  return isNumber ? host::ToText(value) : "";
+}
+
 }  // namespace
+
+std::string InitialText(host::Object& fresh, const host::Member& member) {
+  if (member.isMethod || !member.parameters.empty() || !member.get || member.help.isShared)
+    return "";
+  const host::Value value = member.get(fresh, {});
+  const auto* object = value.If<std::shared_ptr<host::Object>>();
+  if (object == nullptr) return TextOf(value, member.type);
+  if (*object == nullptr) return "";
+  std::string text;
+  for (const int id : (*object)->Type().ValueMembers()) {
+    const auto& part = (*object)->Type().Members()[static_cast<std::size_t>(id)];
+    text += (text.empty() ? "" : " ") + InitialText(**object, part);
+  }
+  return text;
+}
 
 Objects ObjectModel() {
   Objects all = ControlAndFactory();

@@ -12,14 +12,12 @@ const host::TypeInfo& OrvaneScaler::Type() const {
   using Scaler = OrvaneScaler;
   static const host::TypeInfo type =
       host::Describe<Scaler>("A straight-line mapping from a data range into a chart's range.")
-          .Property<float>("ToMin", &Scaler::ToMin, &Scaler::ToMin,
-                           {"Image of FromMin", "", "", "0"})
-          .Property<float>("ToMax", &Scaler::ToMax, &Scaler::ToMax,
-                           {"Image of FromMax", "", "", "1"})
+          .Property<float>("ToMin", &Scaler::ToMin, &Scaler::ToMin, {"Image of FromMin"})
+          .Property<float>("ToMax", &Scaler::ToMax, &Scaler::ToMax, {"Image of FromMax"})
           .Property<float>("FromMin", &Scaler::FromMin, &Scaler::FromMin,
-                           {"Low end of the input range", "", "", "0"})
+                           {"Low end of the input range"})
           .Property<float>("FromMax", &Scaler::FromMax, &Scaler::FromMax,
-                           {"High end of the input range", "", "", "1"})
+                           {"High end of the input range"})
           .Method("ScaledValue", &Scaler::ScaledValue, {"value"}, {"The image of a value"});
   return type;
 }

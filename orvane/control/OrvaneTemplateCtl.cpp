@@ -27,8 +27,10 @@ const host::TypeInfo& OrvaneTemplateCtl::Type() const {
           .Method("CreateScaler", &Ctl::CreateScaler, {}, {"A new value scaler"})
           .Property<std::string>(
               "RelativeProtoPath", &Ctl::RelativeProtoPath, &Ctl::RelativeProtoPath,
-              {"The relative path to get from the output VRML file to the Proto files", "",
-               "empty, or ending in / or \\"});
+              {.text =
+                   "The relative path to get from the output VRML file to the Proto files; empty, "
+                   "or ending in / or \\",
+               .isShared = true});
   return type;
 }
 
@@ -48,9 +50,9 @@ std::string OrvaneTemplateCtl::RelativeProtoPath() const {
 
 void OrvaneTemplateCtl::RelativeProtoPath(const std::string& path) {
   const std::string trimmed = host::Trimmed(path);
-  if (!trimmed.empty() && !trimmed.ends_with('\\') && !trimmed.ends_with('/')) {
-    host::Services().messages->Show("The proto relative path must end with either a / or \\.",
-                                    host::MessageIcon::Exclamation, "Orvane Template OCX");
+  if (!ProtoSettings::IsPrefix(trimmed)) {
+    host::Services().messages->Show(ProtoSettings::kNoPrefix, host::MessageIcon::Exclamation,
+                                    "Orvane Template OCX");
     return;
   }
   m_protoDir.clear();

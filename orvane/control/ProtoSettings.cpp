@@ -29,6 +29,10 @@ void SaveOutputDir(const std::string& directory) {
   host::Services().settings->Save(kApplication, kSection, kOutputDir, directory);
 }
 
+bool IsPrefix(const std::string& path) {
+  return path.empty() || path.ends_with('\\') || path.ends_with('/');
+}
+
 bool IsUrl(const std::string& protoDir) { return host::EqualNoCase(protoDir.substr(0, 4), "HTTP"); }
 
 }  // namespace orvane::ProtoSettings

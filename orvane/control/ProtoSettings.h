@@ -19,6 +19,11 @@ ORVANE_API void SaveProtoDir(const std::string& directory);
 ORVANE_API std::string OutputDir();
 ORVANE_API void SaveOutputDir(const std::string& directory);
 
+/// Whether names of files can follow `path`: it ends in / or \, or is empty.
+ORVANE_API bool IsPrefix(const std::string& path);
+/// What a user is told of a path that is no prefix.
+inline constexpr const char* kNoPrefix = "The proto relative path must end with either a / or \\.";
+
 /// Whether a ProtoDir is a URL: it begins with "HTTP" in any case.
 ORVANE_API bool IsUrl(const std::string& protoDir);
 

@@ -30,8 +30,8 @@ class ORVANE_API Chart : public host::Object, public IOrvaneGraph {
   /// The same world as text, with or without line breaks and indentation.
   std::string ExportToString(bool includeBreaks, bool includeTabs);
 
+  /// The root of the scene. A C++ host may append nodes of its own to its children.
   std::shared_ptr<scene::Transform> RootNode() const override { return m_root; }
-
   /// For C++: ROUTEs between nodes of the scene, the chart's or those that a program hangs into its
   /// root, which each world has after the chart's own.
   scene::RouteList& ExtraRoutes() { return *m_extraRoutes; }

@@ -9,19 +9,57 @@ using host::Int16;
 using host::Quotient;
 using host::Single;
 
-/// What stands at the edge of the grid keeps clear of it by this part of the extent.
-constexpr double kEdge = 1.02;
+/// An axis begins this many label heights before the line or cell of its first label.
+constexpr double kLead = 0.5;
 
-/// What an axis along `count` cells of extent `cell` shows: how many labels, and where the first
-/// one stands along it.
-struct Labels {
-  Labels(std::int16_t count, float cell, LabelsAt place)
-      : count(Int16(count + (place == LabelsAt::Lines ? 1 : 0))),
-        first(place == LabelsAt::Lines ? 0 : cell / 2.0) {}
+/// Gives an axis along `cells` cells of extent `cell` its labels; the result is where the first one
+/// stands along it: in the middle of its cell, or at its line.
+double PutLabels(DiscreteAxis& axis, std::int16_t cells, float cell) {
+  axis.LabelCount(cells);
+  return cell / 2.0;
+}
 
-  std::int16_t count;
-  double first;
-};
+double PutLabels(ContinuousAxis& axis, std::int16_t cells, float /*cell*/,
+                 LabelingOrder order = LabelingOrder::MIN_TO_MAX) {
+  axis.Count(Int16(cells + 1));
+  axis.Order(order);
+  return 0;
+}
+
+/// Aligns labels `gap` apart and the header beside them.
+void Align(Axis& axis, LabelAlignment alignment, float gap, const AxisPlacement& placement) {
+  axis.Alignment(alignment);
+  axis.LabelTextGap(gap);
+  axis.LevelLabels(kLead);
+  axis.AlignHeader(placement.header);
+}
+
+/// Where something stands that keeps `edge` off the far end of `extent`.
+float Beyond(float extent, const Length& edge) {
+  return Single((1 + edge.part) * extent + edge.plus);
+}
+
+template <class A>
+void PlaceAlongX(A& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  const float cell = CellWidth(grid);
+  const double first = PutLabels(axis, grid.XAxisCellCount(), cell);
+  auto& root = *axis.Root();
+  root.translation.X(Single(first - kLead * axis.LabelHeight()));
+  root.translation.Z(Beyond(grid.Depth(), placement.edge));
+  root.rotation.SetFromAngles(-kQuarterTurn, kQuarterTurn, 0);
+  Align(axis, LabelAlignment::RIGHT_ALIGN, cell, placement);
+}
+
+template <class A>
+void PlaceAlongZ(A& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  const float cell = CellDepth(grid);
+  const double first = PutLabels(axis, grid.ZAxisCellCount(), cell);
+  auto& root = *axis.Root();
+  root.translation.X(Beyond(grid.Width(), placement.edge));
+  root.translation.Z(Single(first - kLead * axis.LabelHeight()));
+  root.rotation.SetFromAngles(-kQuarterTurn, 0, 0);
+  Align(axis, LabelAlignment::LEFT_ALIGN, cell, placement);
+}
 
 }  // namespace
 
@@ -35,29 +73,16 @@ float CellDepth(const GridInfo& grid) {
 
 float ConeLift(float coneHeight) { return Single(0.55 * coneHeight); }
 
-void PlaceTitle(const TextInfo& title, const GridInfo& grid) {
+void PlaceTitle(const TextInfo& title, const GridInfo& grid, const GridPlacement& placement) {
   auto& translation = title.Root()->translation;
-  translation.X(Single(grid.Width() / 2.0));
-  translation.Y(Single(1.1 * grid.Height()));
+  translation.X(Single(placement.titleX.Of(grid.Width())));
+  translation.Y(Single(placement.titleY.Of(grid.Height())));
+  if (placement.titleZ) translation.Z(Single(*placement.titleZ));
 }
 
-void PlaceLegend(scene::Transform& root, const GridInfo& grid) {
-  root.translation.X(Single(1.1 * grid.Width()));
-  root.translation.Y(Single(0.1 * grid.Height()));
-}
-
-void PlaceYAxis(ContinuousAxis& axis, const GridInfo& grid) {
-  constexpr float kEighthTurn = 0.7854F;
-  const double height = grid.Height();
-  Place(axis,
-        {.count = Int16(grid.YAxisCellCount() + 1),
-         .alignment = LabelAlignment::RIGHT_ALIGN,
-         .gap = Single(Quotient(height, grid.YAxisCellCount())),
-         .x = -0.02 * grid.Width(),
-         .y = height + axis.LabelHeight() / 2.0,
-         .z = kEdge * grid.Depth(),
-         .yAngle = kEighthTurn},
-        LabelingOrder::MAX_TO_MIN);
+void PlaceLegend(scene::Transform& root, const GridInfo& grid, const GridPlacement& placement) {
+  root.translation.X(Single(placement.legendX.Of(grid.Width())));
+  root.translation.Y(Single(placement.legendY.Of(grid.Height())));
 }
 
 void PlaceDrillUp(const DrillUpInfo& drillUp, const GridInfo& grid) {
@@ -67,29 +92,32 @@ void PlaceDrillUp(const DrillUpInfo& drillUp, const GridInfo& grid) {
   translation.Z(grid.Depth());
 }
 
-AxisPlacement XAxisPlacement(const Axis& axis, const GridInfo& grid, LabelsAt place) {
-  const float cell = CellWidth(grid);
-  const Labels labels(grid.XAxisCellCount(), cell, place);
-  return {.count = labels.count,
-          .alignment = LabelAlignment::RIGHT_ALIGN,
-          .gap = cell,
-          .x = labels.first - axis.LabelHeight() / 2.0,
-          .y = {},
-          .z = kEdge * grid.Depth(),
-          .xAngle = -kQuarterTurn,
-          .yAngle = kQuarterTurn};
+void PlaceXAxis(DiscreteAxis& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  PlaceAlongX(axis, grid, placement);
 }
 
-AxisPlacement ZAxisPlacement(const Axis& axis, const GridInfo& grid, LabelsAt place) {
-  const float cell = CellDepth(grid);
-  const Labels labels(grid.ZAxisCellCount(), cell, place);
-  return {.count = labels.count,
-          .alignment = LabelAlignment::LEFT_ALIGN,
-          .gap = cell,
-          .x = kEdge * grid.Width(),
-          .y = {},
-          .z = labels.first - axis.LabelHeight() / 2.0,
-          .xAngle = -kQuarterTurn};
+void PlaceXAxis(ContinuousAxis& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  PlaceAlongX(axis, grid, placement);
+}
+
+void PlaceYAxis(ContinuousAxis& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  constexpr float kEighthTurn = 0.7854F;
+  const float gap = Single(Quotient(grid.Height(), grid.YAxisCellCount()));
+  PutLabels(axis, grid.YAxisCellCount(), gap, LabelingOrder::MAX_TO_MIN);
+  auto& root = *axis.Root();
+  root.translation.X(Single(-placement.edge.Of(grid.Width())));
+  root.translation.Y(Single(grid.Height() + kLead * axis.LabelHeight()));
+  root.translation.Z(Beyond(grid.Depth(), placement.edge));
+  root.rotation.SetFromAngles(0, kEighthTurn, 0);
+  Align(axis, LabelAlignment::RIGHT_ALIGN, gap, placement);
+}
+
+void PlaceZAxis(DiscreteAxis& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  PlaceAlongZ(axis, grid, placement);
+}
+
+void PlaceZAxis(ContinuousAxis& axis, const GridInfo& grid, const AxisPlacement& placement) {
+  PlaceAlongZ(axis, grid, placement);
 }
 
 }  // namespace orvane

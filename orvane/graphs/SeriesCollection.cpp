@@ -19,12 +19,13 @@ const host::TypeInfo& SeriesCollection::Type() const {
   using Collection = SeriesCollection;
   static const host::TypeInfo type =
       host::Describe<Collection>("An ordered list of series.")
-          .Method("Get1Series", &Collection::Get1Series, {"Index"}, {"One item", "", "1..Count"})
-          .Method("RemoveSeries", &Collection::RemoveSeries, {"Index"},
-                  {"Removes one item", "", "1..Count"})
+          .Method("Get1Series", &Collection::Get1Series, {{"Index", host::UpTo("Count")}},
+                  {"One item"})
+          .Method("RemoveSeries", &Collection::RemoveSeries, {{"Index", host::UpTo("Count")}},
+                  {"Removes one item"})
           .Method("AddSeries", &Collection::AddSeries, {"vNewValue"}, {"Adds an item at the end"})
           .Method("ClearSeries", &Collection::ClearSeries, {}, {"Removes all items"})
-          .Property<std::int16_t>("Count", &Collection::Count, {"Number of items", "", "", "0"});
+          .Property<std::int16_t>("Count", &Collection::Count, {"Number of items"});
   return type;
 }
 

@@ -1,10 +1,10 @@
 /// What every field of a node has in common, and the interface of a node as a list of entries.
 #pragma once
 
+#include "orvane/automation/Interval.h"
 #include "orvane/automation/Object.h"
 
 #include <functional>
-#include <limits>
 #include <memory>
 #include <string>
 
@@ -29,21 +29,11 @@ struct InterfaceEntry {
   Field* field;  ///< nullptr for an eventIn or eventOut, which hold no value.
 };
 
-/// What VRML97 lets a number be, as the standard writes it: "[0,1]", "(0,inf)".
-struct Interval {
-  double low = -std::numeric_limits<double>::infinity();
-  double high = std::numeric_limits<double>::infinity();
-  bool isOpen = false;  ///< Neither end belongs to it.
-
-  bool Contains(double value) const {
-    return isOpen ? value > low && value < high : value >= low && value <= high;
-  }
-};
-
-inline constexpr Interval kAnyNumber{};
-inline constexpr Interval kUnit{0, 1};
-inline constexpr Interval kPositive{0, std::numeric_limits<double>::infinity(), true};
-inline constexpr Interval kNotNegative{0};
+using host::Interval;
+using host::kAnyNumber;
+using host::kNotNegative;
+using host::kPositive;
+using host::kUnit;
 
 /// A field object: bound to its node for life, or free-standing. Changing it changes the scene.
 class ORVANE_API Field : public host::Object {
@@ -57,6 +47,8 @@ class ORVANE_API Field : public host::Object {
   virtual void Write(SceneWriter& out) const = 0;
   /// About how many characters the value takes as text: 0 unless it may be long.
   virtual std::size_t ExpectedSize() const { return 0; }
+  /// What VRML97 lets the field's numbers be.
+  virtual Interval Range() const { return kAnyNumber; }
   /// Calls `visit` for every node that the field holds, in order.
   virtual void VisitNodes(const std::function<void(const Node&)>& visit) const;
 

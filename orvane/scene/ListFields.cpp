@@ -26,7 +26,7 @@ using Components = std::array<float, kComponents<Entry>>;
 /// entries of a list, component after component.
 template <class Entry>
 struct RowAutomation {
-  static ValueType Type() { return {"Numbers"}; }
+  static ValueType Type() { return {"Numbers", nullptr, kComponents<Entry>}; }
   static Value To(const Entry& entry) {
     const auto components = std::bit_cast<Components<Entry>>(entry);
     return Value::Numbers(components.begin(), components.end());
@@ -44,7 +44,7 @@ template <class Entry>
 struct Automation<std::vector<Entry>> {
   static constexpr std::size_t kCount = kComponents<Entry>;
 
-  static ValueType Type() { return {"Numbers"}; }
+  static ValueType Type() { return {"Numbers", nullptr, kCount}; }
 
   static std::vector<Entry> From(const Value& value, const Place& place) {
     const auto* row = value.If<Value::Numbers>();
@@ -101,7 +101,7 @@ const Help kAppend = {"Adds an entry at the end"};
 // The members that all lists have in common; the order of slots differs.
 template <class F>
 void DescribeRemoveAt(Describe<F>& list) {
-  list.Method("RemoveAt", &F::RemoveAt, {"Index"}, {"Removes one entry", "", "1..Count"});
+  list.Method("RemoveAt", &F::RemoveAt, {{"Index", host::UpTo("Count")}}, {"Removes one entry"});
 }
 
 template <class F>
@@ -133,12 +133,13 @@ void DescribeItems(Describe<F>& list) {
 const TypeInfo& MFNode::Type() const {
   static const TypeInfo type =
       Describe<MFNode>("A list of nodes.")
+          .ListOf<std::shared_ptr<Node>>()
           .Method("Append", &MFNode::Append, {"node"}, kAppend)
-          .Method("Insert", &MFNode::Insert, {"Index", "node"},
-                  {"Puts a node at a position, moving later ones back", "", "1..Count + 1"})
+          .Method("Insert", &MFNode::Insert, {{"Index", host::UpTo("Count + 1")}, "node"},
+                  {"Puts a node at a position, moving later ones back"})
           .Method("Remove", &MFNode::Remove, {"node"}, {"Removes a node from the list"})
           .With(DescribeClear<MFNode>)
-          .Indexed<std::shared_ptr<Node>>("Item", &MFNode::Item, {"One entry", "", "1..Count"})
+          .Indexed<std::shared_ptr<Node>>("Item", &MFNode::Item, {"One entry"})
           .With(DescribeCount<MFNode>)
           .With(DescribeRemoveAt<MFNode>);
   return type;
@@ -147,14 +148,14 @@ const TypeInfo& MFNode::Type() const {
 const TypeInfo& MFString::Type() const {
   static const TypeInfo type =
       Describe<MFString>("A list of texts.")
-          .Indexed<std::string>("Item", &MFString::Item, &MFString::Item,
-                                {"One entry", "", "1..Count"})
+          .ListOf<std::string>()
+          .Indexed<std::string>("Item", &MFString::Item, &MFString::Item, {"One entry"})
           .With(DescribeRemoveAt<MFString>)
           .Method("Append", &MFString::Append, {"text"}, kAppend)
           .With(DescribeClear<MFString>)
           .With(DescribeCount<MFString>)
-          .Method("Insert", &MFString::Insert, {"Index", "text"},
-                  {"Puts a text at a position, moving later ones back", "", "1..Count + 1"})
+          .Method("Insert", &MFString::Insert, {{"Index", host::UpTo("Count + 1")}, "text"},
+                  {"Puts a text at a position, moving later ones back"})
           .With(DescribeCopy<MFString>);
   return type;
 }
@@ -162,7 +163,8 @@ const TypeInfo& MFString::Type() const {
 const TypeInfo& MFFloat::Type() const {
   static const TypeInfo type =
       Describe<MFFloat>("A list of numbers.")
-          .Indexed<float>("Item", &MFFloat::Item, &MFFloat::Item, {"One entry", "", "1..Count"})
+          .ListOf<float>()
+          .Indexed<float>("Item", &MFFloat::Item, &MFFloat::Item, {"One entry"})
           .Method("Append", &MFFloat::Append, {"value"}, kAppend)
           .With(DescribeRemoveAt<MFFloat>)
           .With(DescribeCopy<MFFloat>)
@@ -174,11 +176,15 @@ const TypeInfo& MFFloat::Type() const {
 
 const TypeInfo& MFColor::Type() const {
   static const TypeInfo type =
-      Describe<MFColor>("A list of colours, components in 0..1.")
-          .Indexed<Color>("Item", &MFColor::Item, {"One entry as three numbers", "", "1..Count"})
-          .Method("SetItem", &MFColor::SetItem, {"Index", "red", "green", "blue"},
-                  {"Replaces one entry", "", "1..Count"})
-          .Method("Append", &MFColor::Append, {"red", "green", "blue"}, kAppend)
+      Describe<MFColor>("A list of colours.")
+          .ListOf<Color>()
+          .Indexed<Color>("Item", &MFColor::Item, {"One entry as three numbers"})
+          .Method(
+              "SetItem", &MFColor::SetItem,
+              {{"Index", host::UpTo("Count")}, {"red", kUnit}, {"green", kUnit}, {"blue", kUnit}},
+              {"Replaces one entry"})
+          .Method("Append", &MFColor::Append, {{"red", kUnit}, {"green", kUnit}, {"blue", kUnit}},
+                  kAppend)
           .With(DescribeRemoveAt<MFColor>)
           .With(DescribeClear<MFColor>)
           .With(DescribeCount<MFColor>)
@@ -189,7 +195,8 @@ const TypeInfo& MFColor::Type() const {
 const TypeInfo& MFVec2f::Type() const {
   static const TypeInfo type =
       Describe<MFVec2f>("A list of points in the plane.")
-          .Indexed<Vec2f>("Item", &MFVec2f::Item, {"One entry as two numbers", "", "1..Count"})
+          .ListOf<Vec2f>()
+          .Indexed<Vec2f>("Item", &MFVec2f::Item, {"One entry as two numbers"})
           .With(DescribeCount<MFVec2f>)
           .Method("Append", &MFVec2f::Append, {"x", "y"}, kAppend)
           .With(DescribeRemoveAt<MFVec2f>)
@@ -201,7 +208,8 @@ const TypeInfo& MFVec2f::Type() const {
 const TypeInfo& MFVec3f::Type() const {
   static const TypeInfo type =
       Describe<MFVec3f>("A list of points in space.")
-          .Indexed<Vec3f>("Item", &MFVec3f::Item, {"One entry as three numbers", "", "1..Count"})
+          .ListOf<Vec3f>()
+          .Indexed<Vec3f>("Item", &MFVec3f::Item, {"One entry as three numbers"})
           .Method("Append", &MFVec3f::Append, {"x", "y", "z"}, kAppend)
           .With(DescribeRemoveAt<MFVec3f>)
           .With(DescribeClear<MFVec3f>)

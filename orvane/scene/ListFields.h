@@ -82,7 +82,7 @@ class ORVANE_API MFString final : public ListField<MFString, std::string> {
       : ListField(owner, name, std::move(items), access) {}
 
   using ListField::Item;
-  void Item(std::int32_t index, const std::string& text) { m_items[Position(index)] = text; }
+  void Item(std::int32_t index, std::string text) { m_items[Position(index)] = std::move(text); }
   void Append(const std::string& text) { m_items.push_back(text); }
   /// Puts `text` at position `index`, 1..Count + 1, moving later entries back.
   void Insert(std::int32_t index, const std::string& text);
@@ -101,6 +101,8 @@ class ORVANE_API MFFloat final : public ListField<MFFloat, float> {
   /// Numbers are finite and in the node's range; NotFinite or OutOfRange otherwise.
   void Item(std::int32_t index, float value) { m_items[Position(index)] = Checked(value, m_range); }
   void Append(float value) { m_items.push_back(Checked(value, m_range)); }
+
+  Interval Range() const override { return m_range; }
 
  private:
   void Check(const List& items) const override;

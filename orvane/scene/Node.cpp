@@ -100,6 +100,7 @@ host::TypeInfo Node::DescribeInterface() const {
       return static_cast<Node&>(object).m_interface[i].field->Self();
     };
     member.help.text = NameOf(entry.access);
+    member.help.range = entry.field->Range();
     type.Add(std::move(member));
   }
   return type;

@@ -18,62 +18,73 @@ using host::TypeInfo;
 const TypeInfo& SFBool::Type() const {
   static const TypeInfo type =
       Describe<SFBool>("A truth value.")
-          .Property<bool>("Value", &SFBool::Value, &SFBool::Value, {"The value"});
+          .Property<bool>("Value", &SFBool::Value, &SFBool::Value, {"The value"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFInt32::Type() const {
   static const TypeInfo type =
       Describe<SFInt32>("A whole number.")
-          .Property<std::int32_t>("Value", &SFInt32::Value, &SFInt32::Value, {"The value"});
+          .Property<std::int32_t>("Value", &SFInt32::Value, &SFInt32::Value, {"The value"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFFloat::Type() const {
   static const TypeInfo type =
       Describe<SFFloat>("A number.")
-          .Property<float>("Value", &SFFloat::Value, &SFFloat::Value, {"The value", "", "finite"});
+          .Property<float>("Value", &SFFloat::Value, &SFFloat::Value, {"The value"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFTime::Type() const {
-  static const TypeInfo type = Describe<SFTime>("A time.").Property<double>(
-      "Value", &SFTime::Value, &SFTime::Value, {"The value", "seconds", "finite"});
+  static const TypeInfo type =
+      Describe<SFTime>("A time.")
+          .Property<double>("Value", &SFTime::Value, &SFTime::Value, {"The value", "seconds"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFString::Type() const {
-  static const TypeInfo type = Describe<SFString>("A text.").Property<std::string>(
-      "Value", &SFString::Value, &SFString::Value, {"The value"});
+  static const TypeInfo type =
+      Describe<SFString>("A text.")
+          .Property<std::string>("Value", &SFString::Value, &SFString::Value, {"The value"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFColor::Type() const {
   static const TypeInfo type =
       Describe<SFColor>("A colour.")
-          .Property<std::int32_t>("Value", &SFColor::Value, &SFColor::Value,
-                                  {"The colour: red in bits 0-7, green in 8-15, blue in 16-23",
-                                   "host RGB", "0..16777215"})
-          .Property<float>("Red", &SFColor::Red, {"Red component", "", "0..1"})
-          .Property<float>("Green", &SFColor::Green, {"Green component", "", "0..1"})
-          .Property<float>("Blue", &SFColor::Blue, {"Blue component", "", "0..1"});
+          .Color("Value", &SFColor::Value, &SFColor::Value, {"The colour"})
+          .IsValue()
+          .Property<float>("Red", &SFColor::Red, {"Red component", "", host::kUnit})
+          .Property<float>("Green", &SFColor::Green, {"Green component", "", host::kUnit})
+          .Property<float>("Blue", &SFColor::Blue, {"Blue component", "", host::kUnit});
   return type;
 }
 
 const TypeInfo& SFVec2f::Type() const {
   static const TypeInfo type =
       Describe<SFVec2f>("A point or size in the plane.")
-          .Property<float>("X", &SFVec2f::X, &SFVec2f::X, {"First component", "", "finite"})
-          .Property<float>("Y", &SFVec2f::Y, &SFVec2f::Y, {"Second component", "", "finite"});
+          .Property<float>("X", &SFVec2f::X, &SFVec2f::X, {"First component"})
+          .IsValue()
+          .Property<float>("Y", &SFVec2f::Y, &SFVec2f::Y, {"Second component"})
+          .IsValue();
   return type;
 }
 
 const TypeInfo& SFVec3f::Type() const {
   static const TypeInfo type =
       Describe<SFVec3f>("A point or vector in space.")
-          .Property<float>("X", &SFVec3f::X, &SFVec3f::X, {"First component", "", "finite"})
-          .Property<float>("Y", &SFVec3f::Y, &SFVec3f::Y, {"Second component", "", "finite"})
-          .Property<float>("Z", &SFVec3f::Z, &SFVec3f::Z, {"Third component", "", "finite"});
+          .Property<float>("X", &SFVec3f::X, &SFVec3f::X, {"First component"})
+          .IsValue()
+          .Property<float>("Y", &SFVec3f::Y, &SFVec3f::Y, {"Second component"})
+          .IsValue()
+          .Property<float>("Z", &SFVec3f::Z, &SFVec3f::Z, {"Third component"})
+          .IsValue();
   return type;
 }
 
@@ -81,9 +92,10 @@ const TypeInfo& SFRotation::Type() const {
   static const TypeInfo type =
       Describe<SFRotation>("A rotation about an axis.")
           .Method("SetValue", &SFRotation::SetValue, {"x", "y", "z", "angle"},
-                  {"Sets axis and angle", "radians", "finite"})
+                  {"Sets axis and angle", "radians"})
+          .IsValue()
           .Method("SetFromAngles", &SFRotation::SetFromAngles, {"ax", "ay", "az"},
-                  {"Turns about the fixed x, then y, then z axis", "radians", "finite"})
+                  {"Turns about the fixed x, then y, then z axis", "radians"})
           .Property<float>("X", &SFRotation::X, {"First component of the axis"})
           .Property<float>("Y", &SFRotation::Y, {"Second component of the axis"})
           .Property<float>("Z", &SFRotation::Z, {"Third component of the axis"})
@@ -94,7 +106,8 @@ const TypeInfo& SFRotation::Type() const {
 const TypeInfo& SFNode::Type() const {
   static const TypeInfo type =
       Describe<SFNode>("A node, or none.")
-          .Property<std::shared_ptr<Node>>("Value", &SFNode::Value, &SFNode::Value, {"The node"});
+          .Property<std::shared_ptr<Node>>("Value", &SFNode::Value, &SFNode::Value, {"The node"})
+          .IsValue();
   return type;
 }
 

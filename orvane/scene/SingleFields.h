@@ -77,6 +77,7 @@ class ORVANE_API SFFloat final : public SingleField<SFFloat, float> {
   /// A finite number in the node's range; NotFinite or OutOfRange otherwise.
   void Value(float value) { m_value = Checked(value, m_range); }
 
+  Interval Range() const override { return m_range; }
   void Write(SceneWriter& out) const override;
 
  private:
@@ -97,6 +98,7 @@ class ORVANE_API SFTime final : public SingleField<SFTime, double> {
   /// A finite number in the node's range; NotFinite or OutOfRange otherwise.
   void Value(double value) { m_value = Checked(value, m_range); }
 
+  Interval Range() const override { return m_range; }
   void Write(SceneWriter& out) const override;
 
  private:
@@ -178,6 +180,7 @@ class ORVANE_API SFVec3f final : public SingleField<SFVec3f, Vec3f> {
   void Y(float y) { m_value.y = Checked(y, m_range); }
   void Z(float z) { m_value.z = Checked(z, m_range); }
 
+  Interval Range() const override { return m_range; }
   void Write(SceneWriter& out) const override;
 
  private:

@@ -179,8 +179,52 @@ void ClearValue(orvane_value* result) {
   *result = {};
 }
 
-constexpr orvane_object_calls kObjectCalls = {AddRef,      Release, ClassName,
-                                              GetIdOfName, Invoke,  ClearValue};
+/// Values that a C function reads while this lives.
+class Lent {
+ public:
+  explicit Lent(Object::Arguments values) {
+    m_values.reserve(values.size());
+    for (const Value& value : values) m_values.push_back(ToResult(value));
+  }
+  Lent(const Lent&) = delete;
+  Lent& operator=(const Lent&) = delete;
+  ~Lent() {
+    for (orvane_value& value : m_values) ClearValue(&value);
+  }
+
+  const std::vector<orvane_value>& Values() const { return m_values; }
+
+ private:
+  std::vector<orvane_value> m_values;
+};
+
+/// Calls `handler`, and raises the error that it returns.
+void CallHandler(orvane_handler handler, void* context, Object::Arguments arguments) {
+  const Lent lent(arguments);
+  orvane_error error{};
+  const auto status = handler(context, lent.Values().data(), lent.Values().size(), &error);
+  if (status == ORVANE_OK) return;
+  error.source[sizeof error.source - 1] = error.description[sizeof error.description - 1] = '\0';
+  throw AutomationError(static_cast<ErrorNumber>(status), error.description, error.source);
+}
+
+orvane_status Subscribe(orvane_object* self, const char* event, orvane_handler handler,
+                        void* context, int32_t* subscription, orvane_error* error) {
+  return Guarded(error, [&] {
+    RequirePointer(event, "The name of the event is NULL");
+    RequireForC(handler != nullptr, ORVANE_ERROR_POINTER, "The handler is NULL");
+    RequirePointer(subscription, "There is nowhere to put the subscription");
+    *subscription = HandleOf(self).object->Subscribe(
+        event, [=](Object::Arguments arguments) { CallHandler(handler, context, arguments); });
+  });
+}
+
+orvane_status Unsubscribe(orvane_object* self, int32_t subscription, orvane_error* error) {
+  return Guarded(error, [&] { HandleOf(self).object->Unsubscribe(subscription); });
+}
+
+constexpr orvane_object_calls kObjectCalls = {AddRef, Release,    ClassName, GetIdOfName,
+                                              Invoke, ClearValue, Subscribe, Unsubscribe};
 
 orvane_object* HandOut(const std::shared_ptr<Object>& object) {
   auto& held = AllHeld().objects;

@@ -24,6 +24,10 @@
  *
  * Texts are UTF-8 and end in a NUL that is not counted.
  *
+ * Versions. This is version 2. Tables of functions only ever grow at their end, so a program may
+ * use a library of its own version or a later one. One that may meet an earlier library looks for
+ * OrvaneComponentVersion first, which version 1 does not have.
+ *
  * Threads. There are no locks: one thread at a time may be in the library. */
 #ifndef ORVANE_HOST_COMPONENT_H
 #define ORVANE_HOST_COMPONENT_H
@@ -90,6 +94,12 @@ enum {
   ORVANE_LET = 4   /* Writes a property; its value is the last argument, behind the indexes. */
 };
 
+/* Handles an event. The arguments stay the library's, and last as long as the call. What is not
+ * ORVANE_OK is an error: the call that raised the event ends with it, with the source and
+ * description of `error`, which is the handler's to fill in and never NULL. */
+typedef orvane_status (*orvane_handler)(void* context, const orvane_value* arguments, size_t count,
+                                        orvane_error* error);
+
 typedef struct orvane_object_calls {
   uint32_t (*AddRef)(orvane_object* self);  /* The number of references afterwards. */
   uint32_t (*Release)(orvane_object* self); /* The same; at 0 the object is gone. */
@@ -110,6 +120,15 @@ typedef struct orvane_object_calls {
 
   /* Frees what a result holds and makes it ORVANE_EMPTY. */
   void (*ClearValue)(orvane_value* result);
+
+  /* Version 2. Has `handler` called with `context` each time that the object raises the event
+   * called `event`, in any case, until Unsubscribe. It ends with the object itself, not with the
+   * last reference to it: what hangs on a chart lives as long as the chart. */
+  orvane_status (*Subscribe)(orvane_object* self, const char* event, orvane_handler handler,
+                             void* context, int32_t* subscription, orvane_error* error);
+
+  /* Version 2. Takes a handler out again: `subscription` is what Subscribe gave for it. */
+  orvane_status (*Unsubscribe)(orvane_object* self, int32_t subscription, orvane_error* error);
 } orvane_object_calls;
 
 struct orvane_object {
@@ -133,6 +152,10 @@ struct orvane_class {
 /* The one class that a program can create: the control OrvaneTemplateCtl of the type library
  * OrvaneTemplate. */
 #define ORVANE_TEMPLATE_CTL "{6B1D7C52-93E4-4F0A-8E55-2A7C90D4B3F1}"
+
+/* The version of this interface that the library has: 2 or more. */
+uint32_t OrvaneComponentVersion(void);
+typedef uint32_t (*orvane_OrvaneComponentVersion)(void);
 
 /* The class object of the class with identifier `class_id`, in any case. */
 orvane_status DllGetClassObject(const char* class_id, orvane_class** object, orvane_error* error);
@@ -160,6 +183,11 @@ typedef orvane_status (*orvane_DllRegisterServer)(void);
  * the class is not there. */
 orvane_status DllUnregisterServer(void);
 typedef orvane_status (*orvane_DllUnregisterServer)(void);
+
+/* Writes the three PROTO files that worlds refer to into `folder` (UTF-8), which is made when
+ * missing: a world beside them finds them. All are written or none. */
+orvane_status OrvaneWriteProtos(const char* folder, orvane_error* error);
+typedef orvane_status (*orvane_OrvaneWriteProtos)(const char*, orvane_error*);
 
 #ifdef __cplusplus
 }

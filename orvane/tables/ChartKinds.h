@@ -5,7 +5,7 @@
 #include "orvane/automation/Export.h"
 #include "orvane/graphs/Chart.h"
 #include "orvane/tables/ChartOptions.h"
-#include "orvane/tables/read/Source.h"
+#include "orvane/tables/read/TableInput.h"
 
 #include <functional>
 #include <memory>
@@ -48,7 +48,7 @@ struct ChartKind {
   std::string help;
   std::string table;  ///< What the table holds.
   std::vector<Option> options;
-  std::function<TableChart(const Source& table, const ChartOptions& options)> make;
+  std::function<TableChart(const TableInput& table, const ChartOptions& options)> make;
 };
 
 /// All kinds, series charts first.

@@ -3,8 +3,8 @@
 
 #include "orvane/graphs/scatter/ScatterGraph.h"
 #include "orvane/tables/layout/Color.h"
-#include "orvane/tables/read/Source.h"
-#include "orvane/tables/read/Table.h"
+#include "orvane/tables/read/ReadOptions.h"
+#include "orvane/tables/read/TableInput.h"
 
 #include <optional>
 #include <string>
@@ -32,17 +32,16 @@ enum class ShapeStyle { Outlined, Rounded, Ring };
 enum class SliceLabels { Touch, Always };
 
 /// Each kind of chart reads what concerns it; see ChartKinds.
-struct ChartOptions {
+struct ChartOptions : ReadOptions {
   std::string title;
   HostColor background = 0xFAF8F6;
-  MissingCell missing = MissingCell::Error;
   std::optional<GridSize> size;  ///< Fitted to the table when left out.
   bool useToggles = true;
   bool usePopups = true;
 
   ShapeStyle style = ShapeStyle::Outlined;
-  bool isGrouped = false;         ///< Columns of all series side by side in one row of cells.
-  std::optional<Source> surface;  ///< The grid of a combination chart's surface.
+  bool isGrouped = false;             ///< Columns of all series side by side in one row of cells.
+  std::optional<TableInput> surface;  ///< The grid of a combination chart's surface.
 
   SliceLabels sliceLabels = SliceLabels::Touch;
   bool useSpinAxis = false;

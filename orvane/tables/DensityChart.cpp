@@ -63,12 +63,11 @@ double SilvermanSigma(const DensityGraph& chart) {
 void DressSurfaces(DensityGraph& chart, const CloudTable& table, const ValueAxes& axes, double step,
                    const GridLayout& layout) {
   // All hills run out to 0 on the same floor, where none must shine through another.
-  const double lift = std::min(0.035, 0.1 * layout.size.height / chart.SurfaceCount());
+  chart.Lift().step = std::min(0.035, 0.1 * layout.size.height / chart.SurfaceCount());
   for (std::int16_t i = 0; i < chart.SurfaceCount(); ++i) {
     DensitySurfaceInfo& surface = *chart.GetSurface(static_cast<std::int16_t>(i + 1));
     const auto index = static_cast<std::size_t>(i);
     DressSurface(surface, index, step, layout);
-    Move(surface.Root()->children, 0, lift * i);
     for (const auto& [x, z] : table.clouds[index].points) {
       surface.PointList().Append(static_cast<float>(axes.x.Share(x) * layout.size.width),
                                  static_cast<float>(axes.z.Share(z) * layout.size.depth));
@@ -89,7 +88,7 @@ std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table,
   axes.zHeader = ValueAxes::HeaderOf(table.zHeader, axes.z);
   std::vector<std::string> names;
   for (const Cloud& cloud : table.clouds) names.push_back(cloud.name);
-  const GridLayout layout = LayOutGrid(axes, names, kUsualSize, options);
+  const GridLayout layout = LayOutValues(axes, names, kUsualSize, options);
 
   auto chart = std::make_shared<DensityGraph>();
   const Style style(options.background);
@@ -101,6 +100,7 @@ std::shared_ptr<DensityGraph> MakeDensityChart(const CloudTable& table,
   const double latticeStep =
       std::max(layout.size.width / 3.0 / axes.x.cells, layout.size.depth / 3.0 / axes.z.cells);
   DressSurfaces(*chart, table, axes, latticeStep, layout);
+  chart->Placement() = layout.placement;
   DressAroundGrid(*chart, *chart->LegendProps(), layout, SubjectOf(layout), options);
   chart->LegendProps()->UseSeriesToggle(options.useToggles);
   chart->Sigma(

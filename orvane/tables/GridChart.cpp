@@ -1,5 +1,6 @@
 #include "orvane/tables/GridChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/control/OrvaneScaler.h"
 #include "orvane/tables/layout/GridDress.h"
 #include "orvane/tables/layout/Palette.h"
@@ -9,13 +10,14 @@
 #include <string>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
 
 constexpr HostColor kWhite = 0xFFFFFF;
-
-float Single(double value) { return static_cast<float>(value); }
 
 void DressCells(GridInfo& grid, const GridLayout& layout, const Style& style) {
   DressGrid(grid, layout, std::min(layout.CellWidth(), layout.CellDepth()), style);
@@ -30,7 +32,6 @@ void DressAxes(CategoryGraph& chart, const GridLayout& layout, const Style& styl
   DressAxis(*chart.ZAxisProps(), layout.zLabels, "", layout, style);
   for (const auto& text : layout.xLabels.texts) chart.XAxisProps()->Labels().Append(text);
   for (const auto& text : layout.zLabels.texts) chart.ZAxisProps()->Labels().Append(text);
-  SetLabelsOff(*chart.XAxisProps(), *chart.YAxisProps(), *chart.ZAxisProps(), layout);
   DressValues(*chart.YAxisProps(), layout.scale);
 }
 
@@ -50,6 +51,7 @@ void DressGridChart(CategoryGraph& chart, const GridLayout& layout, const ChartO
   const Style style(options.background);
   DressCells(*chart.GridProps(), layout, style);
   DressAxes(chart, layout, style);
+  chart.Placement() = layout.placement;
   DressAroundGrid(chart, *chart.LegendProps(), layout, SubjectOf(layout), options);
   chart.LegendProps()->UseSeriesToggle(options.useToggles);
 }

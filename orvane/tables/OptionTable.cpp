@@ -1,7 +1,10 @@
 #include "orvane/tables/OptionTable.h"
 
+#include "orvane/tables/read/Table.h"
+
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <sstream>
 #include <string>
 
@@ -69,14 +72,90 @@ Option Switch(const std::string& option, const std::string& help, bool ChartOpti
           [member, value](ChartOptions& options, const std::string&) { options.*member = value; }};
 }
 
-std::vector<Option> AllOptions() {
+/// An option whose text goes into `member` as it is.
+Option Text(const std::string& option, const std::string& values, const std::string& help,
+            std::string ChartOptions::*member) {
+  return {
+      option, values,
+      help,   "",
+      false,  [member](ChartOptions& options, const std::string& text) { options.*member = text; }};
+}
+
+/// How the table is written.
+std::vector<Option> DialectOptions() {
+  return {
+      Choice<char>("separator", "What stands between cells; left out, recognised from the file",
+                   &ChartOptions::separator, {{",", ','}, {";", ';'}, {"|", '|'}, {"tab", '\t'}}),
+      Choice<std::optional<DecimalMark>>(
+          "decimal", "The decimal mark; left out, recognised from all numbers of the file",
+          &ChartOptions::decimal, {{".", DecimalMark::Point}, {",", DecimalMark::Comma}}),
+      Text("encoding", "NAME", "Encoding of the file, as iconv calls it; left out, UTF-8 or UTF-16",
+           &ChartOptions::encoding),
+      Switch("no-header", "The first row holds data, not names", &ChartOptions::hasHeader, false),
+  };
+}
+
+/// What of the table is charted.
+std::vector<Option> ChoosingOptions() {
+  return {
+      Text("columns", "A,C,E-G", "Columns to take, by name, letter or number; left out, all",
+           &ChartOptions::columns),
+      Text("rows", "1-12,20-", "Rows below the header to take; left out, all", &ChartOptions::rows),
+      Text("category", "COLUMN", "Of a table with one row a value: the column of categories",
+           &ChartOptions::category),
+      Text("series", "COLUMN", "... the column that names the series; left out, there is one",
+           &ChartOptions::series),
+      Text("value", "COLUMN", "... the column of values", &ChartOptions::value),
+      Choice<std::optional<Aggregate>>(
+          "aggregate", "What becomes of values that meet; left out, that is an error",
+          &ChartOptions::aggregate,
+          {{"sum", Aggregate::Sum},
+           {"mean", Aggregate::Mean},
+           {"median", Aggregate::Median},
+           {"min", Aggregate::Min},
+           {"max", Aggregate::Max},
+           {"count", Aggregate::Count}}),
+      Choice<std::optional<Period>>(
+          "by", "Aggregates categories that are dates; left out, as they are", &ChartOptions::by,
+          {{"day", Period::Day},
+           {"week", Period::Week},
+           {"month", Period::Month},
+           {"quarter", Period::Quarter},
+           {"year", Period::Year}}),
+      Text("date-format", "FORMAT", "How dates are written: %d.%m.%Y; left out, 2024-03-05",
+           &ChartOptions::dateFormat),
+      Switch("fill-dates", "Days, months, ... without a row become gaps", &ChartOptions::fillDates,
+             true),
+      Choice<Sort>("sort", "Order of the categories, largest sum first for value; left out, none",
+                   &ChartOptions::sort,
+                   {{"label", Sort::Label}, {"value", Sort::Value}, {"none", Sort::None}}),
+      {"top", "N", "Keeps the N categories with the largest sums, the rest as \"Other\"", "", false,
+       [](ChartOptions& options, const std::string& text) {
+         const double count = NumberIn(text, 1, kMostCells - 1);
+         if (count != std::floor(count)) throw OptionError(text + " is not a whole number");
+         options.top = static_cast<std::size_t>(count);
+       }},
+      Switch("percent", "Values in per cent of the sum of their category", &ChartOptions::isPercent,
+             true),
+      Switch("transpose", "Categories become series, and series categories",
+             &ChartOptions::isTransposed, true),
+  };
+}
+
+std::vector<Option> LookOptions() {
   return {
       {"title", "TEXT", "Title above the chart", "", false,
        [](ChartOptions& options, const std::string& text) { options.title = text; }},
       {"background", "#rrggbb", "Colour behind the chart; texts and lines go with it", "", false,
        [](ChartOptions& options, const std::string& text) { options.background = ColorIn(text); }},
-      Choice<MissingCell>("missing", "What an empty cell stands for; left out, it is an error",
-                          &ChartOptions::missing, {{"zero", MissingCell::Zero}}),
+      Choice<Missing>("missing",
+                      "What an empty cell stands for: 0, the value before, or one between its"
+                      " neighbours; left out, it is an error",
+                      &ChartOptions::missing,
+                      {{"error", Missing::Error},
+                       {"zero", Missing::Zero},
+                       {"previous", Missing::Previous},
+                       {"linear", Missing::Linear}}),
       {"size", "W,H,D", "Extents of the grid in scene units; left out, fitted to the table", "",
        false, [](ChartOptions& options, const std::string& text) { options.size = SizeIn(text); }},
       Switch("no-toggles", "Leave out the legend's check boxes", &ChartOptions::useToggles, false),
@@ -89,9 +168,7 @@ std::vector<Option> AllOptions() {
       {"surface", "GRID.csv",
        "CSV grid of the surface: the rows and columns of the table, its name in the corner", "",
        true,
-       [](ChartOptions& options, const std::string& text) {
-         options.surface = Source::Read(text);
-       }},
+       [](ChartOptions& options, const std::string& text) { options.surface = TableFile(text); }},
       Choice<ShapeStyle>("slice-style", "Shape of the slices; left out, outlined",
                          &ChartOptions::style,
                          {{"outlined", ShapeStyle::Outlined},
@@ -128,7 +205,13 @@ std::vector<Option> AllOptions() {
 }  // namespace
 
 std::vector<Option> OptionsNamed(OptionNames names) {
-  static const std::vector<Option> all = AllOptions();
+  static const std::vector<Option> all = [] {
+    auto options = LookOptions();
+    for (const auto& more : {DialectOptions(), ChoosingOptions()}) {
+      options.insert(options.end(), more.begin(), more.end());
+    }
+    return options;
+  }();
   std::vector<Option> options;
   for (const std::string_view name : names) {
     options.push_back(*std::find_if(all.begin(), all.end(),

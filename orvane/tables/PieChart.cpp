@@ -1,18 +1,21 @@
 #include "orvane/tables/PieChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/tables/layout/ChartDress.h"
 #include "orvane/tables/layout/Palette.h"
+#include "orvane/tables/layout/PieLayout.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
-
-float Single(double value) { return static_cast<float>(value); }
 
 SliceStyle StyleOf(ShapeStyle style) {
   switch (style) {
@@ -49,10 +52,8 @@ void DressLabel(PieSliceInfo& slice, const PieLabel& label, const PieLayout& lay
   text.TextHeight(Single(layout.textHeight));
   text.TextColor(style.ink);
   text.TextFont(VRMLFontFamily::VRML_SANS);
-  FaceViewer(text.Root()->children.Item(1));
-  // Out from the rim and down from above it: there it is seen before the background.
-  Move(text.Root()->children, label.distance - slice.radius(),
-       label.y - text.Root()->translation.Y());
+  FaceViewer(*text.BillboardNode());
+  slice.TextPlacement({{0, label.distance}, {0, label.y}});
 }
 
 void DressSlices(PieGraph& chart, const PieLayout& layout, const ChartOptions& options,
@@ -67,16 +68,12 @@ void DressSlices(PieGraph& chart, const PieLayout& layout, const ChartOptions& o
   }
 }
 
-/// Puts title and legend where the layout has them. The chart puts the title at 2 heights and the
-/// legend at 1.4 radii and 0.2 heights.
-void PlaceTexts(PieGraph& chart, const PieLayout& layout, bool useToggles, const Style& style) {
-  DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight,
-             layout.titleY - 2 * layout.height, layout.titleZ, style);
+void DressTexts(PieGraph& chart, const PieLayout& layout, bool useToggles, const Style& style) {
+  chart.Placement() = layout.placement;
+  DressTitle(*chart.TitleProps(), layout.title, layout.titleHeight, style);
   LegendInfo& legend = *chart.LegendProps();
   DressLegend(legend, layout.legendTextHeight, style);
   legend.UseSeriesToggle(useToggles);
-  Move(legend.Root()->children, layout.legendPlace.x - 1.4 * layout.radius,
-       layout.legendPlace.y - 0.2 * layout.height);
 }
 
 void LightUp(PieGraph& chart, const PieLayout& layout) {
@@ -106,7 +103,7 @@ std::shared_ptr<PieGraph> MakePieChart(const std::vector<PieShare>& shares,
   ShareOut(*chart, shares);
   DressSlices(*chart, layout, options, style);
   DressBackground(*chart, options.background);
-  PlaceTexts(*chart, layout, options.useToggles, style);
+  DressTexts(*chart, layout, options.useToggles, style);
   AddViews(*chart, ViewsOf(layout));
   LightUp(*chart, layout);
   return chart;

@@ -4,7 +4,6 @@
 #include "orvane/automation/Export.h"
 #include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/tables/ChartOptions.h"
-#include "orvane/tables/layout/PieLayout.h"
 #include "orvane/tables/read/PieTable.h"
 
 #include <memory>

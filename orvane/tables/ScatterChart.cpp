@@ -1,5 +1,6 @@
 #include "orvane/tables/ScatterChart.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/scene/SensorNodes.h"
 #include "orvane/scene/frmMain.h"
 #include "orvane/tables/layout/GridDress.h"
@@ -16,16 +17,16 @@
 #include <vector>
 
 namespace orvane::tables {
+
+using host::Single;
+
 namespace {
 
 using std::int16_t;
 
 /// Labels of a slider begin this far from its middle, in scene units: a little farther than a chart
 /// puts them, so that the knob does not hide their ends.
-constexpr double kLabelShift = 0.16;
-constexpr double kLabelClearance = 0.24 + kLabelShift;
-
-float Single(double value) { return static_cast<float>(value); }
+constexpr double kLabelClearance = 0.4;
 
 bool IsAnimated(const PointTable& table, const ChartOptions& options) {
   return table.frames.size() > 1 && options.animation == AnimationStyle::VRML_ANALOG;
@@ -64,11 +65,10 @@ struct ScatterLayout {
   double largestRadius = 0;
   double largestSize = 0;  ///< In the table, above 0 but for a table of zeros.
 
-  double frontEdge = 0;  ///< Where the x axis, its labels and header end.
-  LabelColumn frames;    ///< Labels of the slider.
+  LabelColumn frames;  ///< Labels of the slider.
   double sliderLength = 0;
-  double sliderScale = 1;
   double starterSize = 0;
+  ScatterPlacement placement;
 
   /// The point of the grid's frame that stands for `row`.
   Point PlaceOf(const PointRow& row) const {
@@ -81,19 +81,28 @@ struct ScatterLayout {
     const double share = largestSize > 0 ? std::cbrt(row.size / largestSize) : 1;
     return largestRadius * std::max(share, kLeast);
   }
-  /// A slider's labels stand within its length, its steps at the ends as well: made larger by this
-  /// factor, the labels stand at their steps.
-  double LabelStretch() const { return sliderLength / (sliderLength - grid.xLabels.height); }
-  double SliderLeft() const { return (grid.size.width - sliderScale * sliderLength) / 2; }
 };
 
 /// A slider of the length that its chart gives it lies in front of the grid, made smaller where it
 /// is longer.
 void LayOutSlider(ScatterLayout& layout, const PointTable& table) {
   const auto count = static_cast<double>(table.frames.size());
-  layout.sliderLength = 1.5 * count * layout.grid.xLabels.height;
-  layout.sliderScale = std::min(1.0, layout.grid.size.width / layout.sliderLength);
-  layout.frames.height = layout.sliderScale * layout.LabelStretch() * layout.grid.xLabels.height;
+  const double width = layout.grid.size.width;
+  const double labelHeight = layout.grid.xLabels.height;
+  ScatterPlacement& placement = layout.placement;
+  const double length = placement.sliderPitch * count * labelHeight;
+  const double scale = std::min(1.0, width / length);
+  placement.sliderX = {0.5, -scale * length / 2};
+  placement.sliderZ = layout.grid.FrontEdge();
+  placement.sliderScale = scale;
+  // Labels stand within the slider's length, its steps at the ends as well: made larger by this
+  // factor, the labels stand at their steps. Digits reach less far down than letters: a hair
+  // higher, they stand in the middle.
+  const double stretch = length / (length - labelHeight);
+  const double lift = length / 2 * (1 - stretch) + 0.15 * labelHeight;
+  placement.sliderLabels = {{0, kLabelClearance}, lift, stretch};
+  layout.sliderLength = length;
+  layout.frames.height = scale * stretch * labelHeight;
   for (const PointFrame& frame : table.frames) layout.frames.texts.push_back(Label(frame.name));
 }
 
@@ -119,15 +128,14 @@ ScatterLayout LayOutScatter(const PointTable& table, const ChartOptions& options
   axes.xHeader = ValueAxes::HeaderOf(table.xHeader, axes.x);
   axes.yHeader = ValueAxes::HeaderOf(table.yHeader, axes.y);
   axes.zHeader = ValueAxes::HeaderOf(table.zHeader, axes.z);
-  layout.grid = LayOutGrid(axes, table.groups, {9, 6, 9}, options);
+  layout.grid = LayOutValues(axes, table.groups, {9, 6, 9}, options, layout.placement);
   const GridLayout& grid = layout.grid;
+  static_cast<GridPlacement&>(layout.placement) = grid.placement;
 
   layout.largestRadius = LargestRadius(table, grid.size);
   ForEachPoint(table, [&](const PointRow& point) {
     layout.largestSize = std::max(layout.largestSize, point.size);
   });
-  layout.frontEdge = kFront * grid.size.depth + grid.labelGap + grid.HeaderDistance(grid.xLabels) +
-                     2.2 * grid.textHeight;
   if (HasSlider(table, options)) LayOutSlider(layout, table);
   if (HasStarter(table, options)) layout.starterSize = 1.5 * grid.textHeight;
   return layout;
@@ -136,16 +144,16 @@ ScatterLayout LayOutScatter(const PointTable& table, const ChartOptions& options
 Subject SubjectOf(const ScatterLayout& layout) {
   Subject subject = SubjectOf(layout.grid);
   if (layout.sliderLength > 0) {
-    const double left = layout.SliderLeft();
-    const double right = left + layout.sliderScale * layout.sliderLength;
-    const double end = layout.frontEdge + kLabelClearance + layout.frames.Width();
+    const double left = layout.placement.sliderX.Of(layout.grid.size.width);
+    const double right = left + layout.placement.sliderScale * layout.sliderLength;
+    const double end = layout.grid.FrontEdge() + kLabelClearance + layout.frames.Width();
     for (const double x : {left - layout.frames.height, right + layout.frames.height}) {
       subject.points.push_back({x, 0, end});
     }
   }
   if (layout.starterSize > 0) {
     subject.points.push_back(
-        {layout.grid.size.width / 2, 0, layout.frontEdge + layout.starterSize});
+        {layout.grid.size.width / 2, 0, layout.grid.FrontEdge() + layout.starterSize});
   }
   return subject;
 }
@@ -181,36 +189,8 @@ void AddFrames(ScatterGraph& chart, const PointTable& table, const ScatterLayout
   }
 }
 
-void Scale(scene::Transform& transform, double factor) {
-  transform.scale.X(Single(factor));
-  transform.scale.Y(Single(factor));
-  transform.scale.Z(Single(factor));
-}
-
-/// Puts the slider in front of the grid. Its chart has its first step at 1.1 widths and turns its
-/// own x to -z, its own y to -x.
-void MoveSlider(ScatterGraph& chart, const ScatterLayout& layout) {
-  SliderInfo& slider = *chart.FrameSlider();
-  const double scale = layout.sliderScale;
-  const double right = layout.SliderLeft() + scale * layout.sliderLength;
-  const auto labels = slider.Root()->children.Item(2);
-  auto& stretched = *Wrap(dynamic_cast<scene::Transform&>(*labels).children);
-  const double stretch = layout.LabelStretch();
-  Scale(stretched, stretch);
-  // Digits reach less far down than letters: a hair higher, they stand in the middle of their
-  // steps.
-  stretched.translation.X(Single(-kLabelShift));
-  stretched.translation.Y(
-      Single(layout.sliderLength / 2 * (1 - stretch) + 0.15 * layout.grid.xLabels.height));
-
-  auto& placed = *Wrap(slider.Root()->children);
-  placed.translation.Y(Single(1.1 * layout.grid.size.width + layout.sliderLength - right));
-  Scale(placed, scale);
-  slider.Root()->translation.Z(Single(layout.frontEdge));
-}
-
-/// A flat cone that lies in front of the grid and points to the right, as on a button that says
-/// "play". It starts an animation that does not loop.
+/// Starts an animation that does not loop: a flat cone that lies in front of the grid and points to
+/// the right, as on a button that says "play".
 void AddStarter(ScatterGraph& chart, const ScatterLayout& layout) {
   const double size = layout.starterSize;
   const auto cone = scene::Create<scene::Cone>();
@@ -234,7 +214,7 @@ void AddStarter(ScatterGraph& chart, const ScatterLayout& layout) {
   starter->scale.X(Single(kFlatness));
   starter->translation.X(Single(layout.grid.size.width / 2));
   starter->translation.Y(Single(kFlatness * size / 2));
-  starter->translation.Z(Single(layout.frontEdge + size / 2));
+  starter->translation.Z(Single(layout.grid.FrontEdge() + size / 2));
   chart.RootNode()->children.Append(starter);
   chart.ExtraRoutes().AddRoute(sensor, "touchTime", chart.TimeKeeper(), "set_startTime");
 }
@@ -253,6 +233,7 @@ std::shared_ptr<ScatterGraph> MakeScatterChart(const PointTable& table,
     chart->LegendProps()->AddLegendEntry(SeriesColor(i), layout.grid.legend.texts[i]);
   }
   chart->LegendProps()->KeyStyle(LegendKeyStyle::SPHERE_STYLE);
+  chart->Placement() = layout.placement;
   DressAroundGrid(*chart, *chart->LegendProps(), layout.grid, SubjectOf(layout), options);
 
   AddFrames(*chart, table, layout);
@@ -260,7 +241,6 @@ std::shared_ptr<ScatterGraph> MakeScatterChart(const PointTable& table,
   chart->PointAnimationStyle(options.animation);
   chart->AnimationLoopStyle(options.loop);
   chart->FrameTimeGap(options.frameSeconds);
-  if (layout.sliderLength > 0) MoveSlider(*chart, layout);
   if (layout.starterSize > 0) AddStarter(*chart, layout);
   return chart;
 }

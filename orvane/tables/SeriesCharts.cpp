@@ -1,6 +1,7 @@
 #include "orvane/tables/SeriesCharts.h"
 
 #include "orvane/tables/GridChart.h"
+#include "orvane/tables/SeriesShapes.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -15,7 +16,7 @@ using std::int16_t;
 template <class G, class F>
 std::shared_ptr<G> MakeChart(const Table& table, const ChartOptions& options, F dress) {
   auto chart = std::make_shared<G>();
-  const GridLayout layout = LayOutGrid(table, options);
+  const GridLayout layout = LayOutSeries(table, options);
   DressGridChart(*chart, layout, options);
   for (std::size_t i = 0; i < table.series.size(); ++i) {
     DressGridSeries(*dress(*chart, i, layout), i, table, layout, options);

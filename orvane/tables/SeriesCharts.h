@@ -6,10 +6,8 @@
 #include "orvane/graphs/grid/ColumnGraph.h"
 #include "orvane/graphs/grid/RibbonGraph.h"
 #include "orvane/tables/ChartOptions.h"
-#include "orvane/tables/layout/GridLayout.h"
 #include "orvane/tables/read/Table.h"
 
-#include <cstddef>
 #include <memory>
 
 namespace orvane::tables {
@@ -22,10 +20,5 @@ ORVANE_API std::shared_ptr<ColumnGraph> MakeColumnChart(const Table& table,
                                                         const ChartOptions& options);
 ORVANE_API std::shared_ptr<RibbonGraph> MakeRibbonChart(const Table& table,
                                                         const ChartOptions& options);
-
-/// Sizes and style of series in the cells of a chart, `slots` of columns side by side in each.
-void ShapeColumns(ColumnSeriesInfo& series, std::size_t slots, const GridLayout& layout,
-                  const ChartOptions& options);
-void ShapeRibbon(RibbonSeriesInfo& series, const GridLayout& layout, const ChartOptions& options);
 
 }  // namespace orvane::tables

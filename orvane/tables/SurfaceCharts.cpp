@@ -1,7 +1,7 @@
 #include "orvane/tables/SurfaceCharts.h"
 
 #include "orvane/tables/GridChart.h"
-#include "orvane/tables/SeriesCharts.h"
+#include "orvane/tables/SeriesShapes.h"
 #include "orvane/tables/layout/GridLayout.h"
 
 #include <algorithm>
@@ -15,13 +15,14 @@ namespace {
 
 void RequireSurface(const Table& grid) {
   if (grid.categories.size() >= 2 && grid.series.size() >= 2) return;
-  throw FileError(grid.file + ": a surface needs two rows and two columns of numbers or more");
+  throw FileError(grid.origin.name +
+                  ": a surface needs two rows and two columns of numbers or more");
 }
 
 /// The name of a surface: the cell in its grid's corner or, where that is empty, of its file.
 std::string NameOf(const Table& grid) {
   const auto& corner = grid.categoryHeader;
-  return corner.empty() ? std::filesystem::path(grid.file).stem().string() : corner;
+  return corner.empty() ? std::filesystem::path(grid.origin.name).stem().string() : corner;
 }
 
 /// A map in the shape of its grid: cells are square unless that makes it long and thin.
@@ -40,7 +41,8 @@ void RequireSame(const Table& surface, const Table& table, const std::string& wh
                  const std::vector<std::string>& labels, const std::vector<std::string>& wanted) {
   const auto require = [&](bool isSame, const std::string& found, const std::string& expected) {
     if (isSame) return;
-    throw FileError(surface.file + ": " + found + ", where " + table.file + " has " + expected);
+    throw FileError(surface.origin.name + ": " + found + ", where " + table.origin.name + " has " +
+                    expected);
   };
   require(labels.size() == wanted.size(), std::to_string(labels.size()) + " " + what + "s",
           std::to_string(wanted.size()));
@@ -64,7 +66,7 @@ std::shared_ptr<G> MakeCombo(const Table& table, const Table& surface, const Cha
   const ValueScale scale = RoundScale(std::min(lowest, surfaceLowest),
                                       std::max(highest, surfaceHighest), kMostValueCells);
   const GridLayout layout =
-      LayOutGrid(texts, scale, SizeFor(texts.x.size(), texts.z.size()), options);
+      LayOutCategories(texts, scale, SizeFor(texts.x.size(), texts.z.size()), options);
 
   auto chart = std::make_shared<G>();
   DressGridChart(*chart, layout, options);
@@ -86,8 +88,8 @@ std::shared_ptr<SurfaceGraph> MakeSurfaceChart(const Table& grid, const ChartOpt
   RequireSurface(grid);
   const auto [lowest, highest] = RangeOf(grid);
   const GridTexts texts{TextsOf(grid).z, grid.categories, {NameOf(grid)}, ""};
-  const GridLayout layout = LayOutGrid(texts, FittedScale(lowest, highest, kMostValueCells),
-                                       SizeOfMap(texts.x.size(), texts.z.size()), options);
+  const GridLayout layout = LayOutCategories(texts, FittedScale(lowest, highest, kMostValueCells),
+                                             SizeOfMap(texts.x.size(), texts.z.size()), options);
   auto chart = std::make_shared<SurfaceGraph>();
   DressGridChart(*chart, layout, options);
   chart->SurfaceCount(1);

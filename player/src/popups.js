@@ -41,8 +41,7 @@ function popupOf(node, name, n, tell) {
     const index = names.get('Host').get('pointed'), text = node.get(texts)[index] ?? '';
     tell(text !== '' ? { popup: n, name, index, text } : null, n);
   };
-  names.get('Panel').field('whichChoice').listen(say);
-  names.get('PanelText').field('string').listen(say);
+  names.get('Host').field('shown').listen(say);
   return { node, name, get texts() { return node.get(texts); } };
 }
 

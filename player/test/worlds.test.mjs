@@ -89,7 +89,10 @@ test('popups: each value has its text, told once, and gone with the pointer', ()
     point(scene, 'move', strip, [at, 0, 0]);
     assert.equal(told.at(-1).index, index);
     assert.equal(told.at(-1).text, popups[1].texts[index]);
-    assert.deepEqual(popups[1].node.names.get('PanelText').get('string'), popups[1].texts[index].split('\n'));
+    const panel = popups[1].node.names.get('Home').get('children').at(-1);
+    const [place] = panel.get('choice'), [billboard] = place.get('children'), [frame] = billboard.get('children');
+    const text = frame.get('children').at(-1).get('children')[0].get('geometry');
+    assert.deepEqual(text.get('string'), popups[1].texts[index].split('\n'));
   }
   scene.pointer({ type: 'leave', ray: null, hit: null });
   assert.equal(told.at(-1), null);

@@ -8,6 +8,8 @@ function set_size(value, time) { draw(); }
 
 function set_heights(value, time) { draw(); }
 
+function spacingOf() { return spacingStore.offset; }
+
 function draw() {
   var depth = depthStore.offset, spacing = spacingStore.offset;
   var x = new Array(), y = new Array();
@@ -97,7 +99,7 @@ function drawEdges(x, y, depth) {
     index.push(n - 2, n - 1);
     for (i = last; i >= 0; --i) index.push(2 * i + 1);
     index.push(n - 3, n - 4, n - 2, -1, n - 3, n - 1, -1);
-    for (i = 0; i <= last; ++i) index.push(2 * i, 2 * i + 1, -1);
+    for (i = 0; !isLong && i <= last; ++i) index.push(2 * i, 2 * i + 1, -1);
   }
   edgePoints = points;
   edgeIndex = integers(index);

@@ -78,10 +78,24 @@ function drawPoints(count, spacing, width, depth) {
     field[n++] = new Point(left, y, 0);
   }
   columns.geometry.coord.point = field;
+  drawNormals(count);
 
   var length = spacing * Math.max(0, count - 1), reach = 160 * shorter;
   nearness.center = new SFVec3f(0.5 * length, 0, 0.5 * depth);
   nearness.size = new SFVec3f(length + reach, 2 * highest + reach, depth + reach);
+}
+
+/* A column that hangs has its left and right, and its tip and foot, changed over. Numbers of faces are those
+   of drawFaces. */
+function drawNormals(count) {
+  var heights = heightStore.keyValue, field = new MFInt32(), faces = count < 100 ? 6 : 5, n = 0;
+  var standing = new Array(0, 1, 2, 3, 4, 5), hanging = new Array(0, 3, 2, 1, 5, 4);
+  field.length = faces * count;
+  for (var i = 0; i < count; ++i) {
+    var list = i < heights.length && heights[i] < 0 && heights[i] - heights[i] == 0 ? hanging : standing;
+    for (var k = 0; k < faces; ++k) field[n++] = list[k];
+  }
+  columns.geometry.set_normalIndex = field;
 }
 
 /* The face at the foot lies between the lifted edges, clear of the floor as they are. */

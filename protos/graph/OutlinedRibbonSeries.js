@@ -8,6 +8,8 @@ function set_size(value, time) { draw(); }
 
 function set_heights(value, time) { draw(); }
 
+function spacingOf() { return sizeStore.offset; }
+
 function draw() {
   var spacing = sizeStore.offset, thickness = sizeStore.minAngle, depth = sizeStore.maxAngle;
   var x = new Array(), y = new Array(), faces = new Array(), edges = new Array();
@@ -119,7 +121,7 @@ function drawEdges(list, first) {
     for (i = 0; i < list.length; ++i) index.push(first + 4 * i + corner);
     index.push(-1);
   }
-  for (i = 0; i < list.length; ++i) {
+  for (i = 0; !isLong && i < list.length; ++i) {
     var a = first + 4 * i;
     if (list[i].hinge <= 0) index.push(a, a + 1, -1);
     if (list[i].hinge >= 0) index.push(a + 2, a + 3, -1);

@@ -1,6 +1,6 @@
 // Shows the panel of qm4_PopupSurface at the lattice point that the pointer is nearest to.
 
-function set_viewer(value, time) { viewer = new SFVec3f(value.x, value.y, value.z); }
+var over = false, overPanel = false, hit = null;
 
 function set_over(value, time) { over = value; }
 
@@ -15,11 +15,8 @@ function pointTo(point) {
   var i = nearest(point.x / xStepStore.offset, xStore.whichChoice);
   var k = nearest(point.z / zStepStore.offset, zStore.whichChoice);
   hit = new SFVec3f(point.x, point.y, point.z);
-  if (k * xStore.whichChoice + i != pointed) {
-    pointed = k * xStore.whichChoice + i;
-    layOut();
-  }
-  putPanel();
+  pointed = k * xStore.whichChoice + i;
+  layOut();
 }
 
 function set_overPanel(value, time) { overPanel = value; }
@@ -38,10 +35,7 @@ function set_popupText(value, time) { layOut(); }
 
 function eventsProcessed() {
   if (!over && !overPanel) pointed = -1;
-  var next = text() == '' ? -1 : 0;
-  if (next == shown) return;
-  shown = next;
-  choice = next;
+  if (text() == '') hidePanel();
 }
 
 function nearest(at, count) { return Math.max(0, Math.min(count - 1, Math.floor(at + 0.5))); }
@@ -50,9 +44,10 @@ function nearest(at, count) { return Math.max(0, Math.min(count - 1, Math.floor(
    steps of a quarter of a cell; u and v count lattice points along x and z. */
 function seenThrough(point) {
   var right = xStore.whichChoice - 1, front = zStore.whichChoice - 1;
-  var u = point.x / xStepStore.offset, du = u - viewer.x / xStepStore.offset;
-  var v = point.z / zStepStore.offset, dv = v - viewer.z / zStepStore.offset;
-  var y = point.y, dy = y - viewer.y, cells = Math.max(Math.abs(du), Math.abs(dv));
+  var eye = viewer.position_changed;
+  var u = point.x / xStepStore.offset, du = u - eye.x / xStepStore.offset;
+  var v = point.z / zStepStore.offset, dv = v - eye.z / zStepStore.offset;
+  var y = point.y, dy = y - eye.y, cells = Math.max(Math.abs(du), Math.abs(dv));
   var stretch = overlap(overlap(new Array(0, 1e6), u, du, right), v, dv, front);
   if (!(stretch[0] <= stretch[1])) return null;
   if (cells < 0.000001) return onLattice(u, v);
@@ -93,20 +88,15 @@ function height(n) {
   return n < heights.length ? scaleStore.offset * heights[n] : 0;
 }
 
-/* Half way from the point that was hit to the viewer, and half as large, so that the panel looks as
-   if it stood beside that point, but nothing of the surface comes before it. */
-function putPanel() { place = hit.add(viewer.subtract(hit).multiply(0.5)); }
-
+/* The panel stands half way from the point that was hit to the viewer, and half as large, so that it looks
+   as if it stood beside that point, but nothing of the surface comes before it. */
 function layOut() {
   if (text() == '') return;
-  var size = 0.5 * sizeStore.offset, width = halfWidth(), height = 0.5 * lines().length + 0.3;
-  var position = positionStore.description;
+  var size = 0.5 * sizeStore.offset, position = textStore.description;
   var side = position == 'LEFT' ? -1 : position == 'RIGHT' ? 1 : 0;
   var rise = side != 0 ? 0 : position == 'BOTTOM' ? -1 : 1;
-  frameTranslation = new SFVec3f(side * (width + 1) * size, rise * (height + 1) * size, 0);
-  frameScale = new SFVec3f(size, size, size);
-  panelPoints = rectangles(width, height, 0.08);
-  panelText = strings(lines());
+  showPanel(hit.add(viewer.position_changed.subtract(hit).multiply(0.5)),
+    new SFVec3f(side * (halfWidth() + 1) * size, rise * (halfHeight() + 1) * size, 0), size);
 }
 
 // include ../parts/panel.js

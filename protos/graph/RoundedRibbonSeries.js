@@ -8,6 +8,8 @@ function set_size(value, time) { draw(); }
 
 function set_heights(value, time) { draw(); }
 
+function spacingOf() { return sizeStore.offset; }
+
 function draw() {
   var spacing = sizeStore.offset, thickness = sizeStore.minAngle, depth = sizeStore.maxAngle;
   var x = new Array(), y = new Array(), rings = new Array();

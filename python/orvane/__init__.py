@@ -19,23 +19,19 @@ From a table to a chart it is one call, for every kind of chart:
 """
 
 import os
-import shutil
 from pathlib import Path
 
 from . import _charts, _classes
 from ._charts import chart, chart_kinds
-from ._classes import Object
+from ._classes import Event, Object
 from ._orvane import AutomationError, UnknownMember
 from ._orvane import version as __version__
-
-ProtoFolder = Path(__file__).parent / "protos"
-"""The folder with the three PROTO files that every world refers to."""
-
+from ._orvane import write_protos as _write_protos
 
 def WriteProtos(folder):
-    """Copies the PROTO files to `folder`, which is made when missing: there, beside a world, the
+    """Writes the PROTO files to `folder`, which is made when missing: there, beside a world, the
     world finds them."""
-    shutil.copytree(ProtoFolder, folder, dirs_exist_ok=True)
+    _write_protos(os.fsdecode(folder))
 
 
 def _save(self, path):
@@ -57,8 +53,8 @@ for _class in _model.values():
 globals().update(_model)
 __all__ = [
     "AutomationError",
+    "Event",
     "Object",
-    "ProtoFolder",
     "UnknownMember",
     "WriteProtos",
     "__version__",

@@ -47,9 +47,30 @@ class IndexedProperty:
         self._owner._let(self._id, (index, value))
 
 
+class Event:
+    """An event of an object: `chart.GridProps.XCellCountChanged.Subscribe(print)`."""
+
+    __slots__ = ("_owner", "_name")
+
+    def __init__(self, owner, name):
+        self._owner = owner
+        self._name = name
+
+    def Subscribe(self, handler):
+        """Has `handler` called with the event's arguments each time that it is raised, until
+        Unsubscribe or the end of the object. What the handler raises ends the call that raised the
+        event with an AutomationError. Returns what Unsubscribe takes."""
+        return self._owner._subscribe(self._name, handler)
+
+    def Unsubscribe(self, subscription):
+        """Takes a handler out again: `subscription` is what Subscribe returned for it."""
+        self._owner._unsubscribe(subscription)
+
+
 def _descriptor(self, name):
-    """What stands for the member called `name`, in any case, in the class of `self`."""
-    return type(self)._members[self._id(name)]
+    """What stands for the member or event called `name`, in any case, in the class of `self`."""
+    event = type(self)._events.get(name.lower())
+    return type(self)._members[self._id(name)] if event is None else event
 
 
 def _reader(id, type):
@@ -65,16 +86,23 @@ def _reader(id, type):
     return read
 
 
-def _is_list(member):
-    """Whether a property holds a list field, whose entries can be set in one go."""
-    return not member.is_method and member.type.name.startswith("MF")
+_entry_types = {}
+"""The type of the entries of each class of lists, by name."""
+
+_initial_texts = {}
+"""How the members of each class read at first, by the names of class and member."""
+
+
+def list_entry(member):
+    """The type of the entries of a property that holds a list; None for other members."""
+    return None if member.is_method else _entry_types.get(member.type.name)
 
 
 def _writer(id, member, read):
     """The function that sets a property; None for one that is only read."""
     if member.is_let:
         return lambda self, value: self._let(id, (value,))
-    if not _is_list(member):
+    if list_entry(member) is None:
         return None
 
     def let(self, value):  # A list keeps its identity: what is set are its entries.
@@ -109,21 +137,26 @@ def _entries(self):
         yield self.Item(index)
 
 
-def _documentation(member):
+def _documentation(member, owner):
     help = member.help
     text = help.text + (f", in {help.unit}." if help.unit else ".")
     if member.type.name and not member.is_method:
         text = f"{member.type.name}: {text}"
     if help.range:
         text += f" Range: {help.range}."
-    if help.initial:
-        text += f" Initially: {help.initial}."
-    if _is_list(member):
+    initial = _initial_texts.get(owner, {}).get(member.name)
+    if initial:
+        text += f" Initially: {initial}."
+    if list_entry(member) is not None:
         text += " Setting it replaces the entries of the list."
     elif not member.is_method and not member.is_let:
         text += " Read-only."
     if member.is_method:
-        lines = [f"{each.name}: {each.type.name}" for each in member.parameters if not each.is_out]
+        lines = [
+            f"{each.name}: {each.type.name}" + (f", {each.range}" if each.range else "")
+            for each in member.parameters
+            if not each.is_out
+        ]
         if member.type.name:
             out = ", ".join(each.name for each in member.parameters if each.is_out)
             lines.append(f"Returns: {member.type.name}" + (f" ({out})" if out else ""))
@@ -145,7 +178,7 @@ def _method(id, member, owner):
     call.__name__ = member.name
     call.__qualname__ = f"{owner}.{member.name}"
     call.__module__ = __package__
-    call.__doc__ = _documentation(member)
+    call.__doc__ = _documentation(member, owner)
     return call
 
 
@@ -154,9 +187,14 @@ def _attribute(id, member, owner):
     if member.is_method:
         return _method(id, member, owner)
     if member.parameters:
-        return property(lambda self: IndexedProperty(self, id), doc=_documentation(member))
+        return property(lambda self: IndexedProperty(self, id), doc=_documentation(member, owner))
     read = _reader(id, member.type)
-    return property(read, _writer(id, member, read), doc=_documentation(member))
+    return property(read, _writer(id, member, read), doc=_documentation(member, owner))
+
+
+def _event(info):
+    arguments = ", ".join(f"{each.name}: {each.type.name}" for each in info.parameters)
+    return property(lambda self: Event(self, info.name), doc=f"Event ({arguments}): {info.text}.")
 
 
 def _constructor(name):
@@ -173,15 +211,18 @@ def make_class(table):
     """The class that a type table describes."""
     names = [member.name for member in table.members]
     members = [_attribute(id, member, table.name) for id, member in enumerate(table.members)]
+    events = {event.name: _event(event) for event in table.events}
     namespace = {
         "__slots__": (),
         "__module__": __package__,
         "__doc__": table.text,
         "__init__": _constructor(table.name),
         "_members": members,
+        "_events": {name.lower(): event for name, event in events.items()},
         **dict(zip(names, members)),
+        **events,
     }
-    if {"Count", "Item"} <= set(names):
+    if table.entry is not None:
         namespace |= {"__len__": lambda self: self.Count, "__iter__": _entries}
     return type(Object)(table.name, (Object,), namespace)
 
@@ -199,5 +240,8 @@ def enumeration(info):
 def make_all():
     """Every class and enumeration that the tables tell of, by name."""
     _orvane.make_classes_with(make_class)
-    classes = [_orvane.class_of(table) for table in _orvane.types()]
+    tables = _orvane.types()
+    _entry_types.update((table.name, table.entry) for table in tables if table.entry is not None)
+    _initial_texts.update(_orvane.initial_texts())
+    classes = [_orvane.class_of(table) for table in tables]
     return {made.__name__: made for made in [*classes, *_enumerations.values()]}

@@ -40,12 +40,14 @@ struct Color {
 struct Plane {
   double a = 0, b = 0, c = 0;
   Samples steps{};
+  float most = 0;  ///< of the steps
 
   float At(int x, int y) const { return static_cast<float>(a * x + b * y + c); }
   void Prepare() {
     for (std::size_t i = 0; i < kSamples; ++i) {
       steps[i] = static_cast<float>(a * double{SampleX(i)} + b * double{SampleY(i)});
     }
+    most = *std::ranges::max_element(steps);
   }
 };
 
@@ -125,7 +127,16 @@ class Tile {
     const int y0 = Within(lowY - static_cast<float>(m_y), m_height),
               y1 = Within(highY - static_cast<float>(m_y), m_height);
     for (int y = y0; y <= y1; ++y) {
-      for (int x = x0; x <= x1; ++x) DrawPixel(triangle, parts, near, x, y, isClear);
+      const Vec3 row{parts[0].At(0, y), parts[1].At(0, y), parts[2].At(0, y)};
+      for (int x = x0; x <= x1; ++x) {
+        Vec3 start;
+        bool isNear = true;  // to the triangle
+        for (std::size_t i = 0; i < 3; ++i) {
+          start[i] = row[i] + static_cast<float>(parts[i].a) * static_cast<float>(x);
+          isNear = isNear && start[i] + parts[i].most >= 0;
+        }
+        if (isNear) DrawPixel(triangle, parts, start, near, x, y, isClear);
+      }
     }
   }
 
@@ -133,9 +144,9 @@ class Tile {
     return static_cast<int>(std::clamp(std::floor(at), 0.0F, static_cast<float>(count - 1)));
   }
 
-  void DrawPixel(const Triangle& triangle, const std::array<Plane, 3>& parts, const Plane& near,
-                 int x, int y, bool isClear) {
-    const float p = parts[0].At(x, y), q = parts[1].At(x, y), r = parts[2].At(x, y);
+  void DrawPixel(const Triangle& triangle, const std::array<Plane, 3>& parts, const Vec3& start,
+                 const Plane& near, int x, int y, bool isClear) {
+    const auto [p, q, r] = start;
     const float depth = near.At(x, y);
     const auto pixel = static_cast<std::size_t>(y * kTile + x);
     Samples& nearest = m_near[pixel];
@@ -148,7 +159,7 @@ class Tile {
       count += isHit[i];
     }
     if (count == 0) return;
-    const Color color = ColorAt(triangle, {p, q, r}, parts, isHit, count);
+    const Color color = ColorAt(triangle, start, parts, isHit, count);
     Color* colors = m_color.data() + pixel * kSamples;
     for (std::size_t i = 0; i < kSamples; ++i) {
       if (!isHit[i]) continue;

@@ -48,7 +48,7 @@ class Guard {
   void Significant(char c) {
     if (!m_open.empty() && m_open.back().isCondition) {
       m_open.back().isCondition = false;
-      m_out += c == ';' ? "__tick()" : "__tick(),";
+      m_out += c == ';' ? "__tick(),true" : "__tick(),";
     }
     if (c == '"' || c == '\'')
       String(c);

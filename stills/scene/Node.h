@@ -50,6 +50,7 @@ class Node {
   const std::vector<std::int32_t>& Ints(std::string_view name) const {
     return Get<std::int32_t>(name);
   }
+  const std::vector<double>& Doubles(std::string_view name) const { return Get<double>(name); }
   bool Bool(std::string_view name) const { return Ints(name)[0] != 0; }
   const std::vector<std::string>& Strings(std::string_view name) const {
     return Get<std::string>(name);

@@ -35,6 +35,7 @@ class Scene {
 
   const std::vector<Node*>& Roots() const { return m_roots; }
   const std::deque<Node>& AllNodes() const { return m_nodes; }
+  std::deque<Node>& AllNodes() { return m_nodes; }
   Budget& TheBudget() { return m_budget; }
 
   /// A field takes a value as if by a ROUTE, and so do all that follow from it.

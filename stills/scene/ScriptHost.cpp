@@ -132,7 +132,10 @@ class ScriptHost::Engine {
       std::free(before);
       return nullptr;
     }
-    if (engine.m_bytes - had + size > engine.m_budget.Bytes()) return nullptr;
+    if (engine.m_bytes - had + size > engine.m_budget.Bytes()) {
+      engine.m_isFull = true;
+      return nullptr;
+    }
     auto* block = static_cast<std::size_t*>(std::realloc(before, size + 2 * sizeof(std::size_t)));
     if (!block) return nullptr;
     engine.m_bytes += size - had;
@@ -210,6 +213,10 @@ class ScriptHost::Engine {
     const std::string stack = duk_safe_to_string(m_context, -1);
     duk_pop(m_context);
     std::string message = duk_safe_to_string(m_context, -1);
+    if (std::exchange(m_isFull, false)) {
+      message =
+          "scripts take more than " + std::to_string(m_budget.Bytes() >> 20) + " MB of memory";
+    }
     Place at = place;
     for (const std::string& mark : {"(" + *place.file + ":", "at " + *place.file + ":"}) {
       const std::size_t found = stack.find(mark);
@@ -506,6 +513,7 @@ class ScriptHost::Engine {
   Scene& m_scene;
   Budget& m_budget;
   std::size_t m_bytes = 0;
+  bool m_isFull = false;  ///< the engine asked for more than the limit
   std::deque<Script> m_scripts;
   std::map<const Node*, std::size_t> m_byNode;
   std::vector<Script*> m_touched;

@@ -158,7 +158,7 @@ void Collector::AddShape(const Node& shape, const Matrix& place) {
   part.mesh = mesh;
   part.place = place;
   part.look = LookOf(shape, kind, !mesh->colors.empty());
-  m_names.Describe(part, *geometry);
+  m_names.Describe(part, *geometry, appearance);
   m_scene.TheBudget().Take(sizeof(Part) + part.values.size() * sizeof(float));
   m_found.parts.push_back(std::move(part));
 }

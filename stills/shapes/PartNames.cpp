@@ -78,15 +78,18 @@ std::string PartNames::ToggledSeries(const Node& instance) const {
   return name;
 }
 
-void PartNames::Describe(Part& part, const Node& geometry) {
+void PartNames::Describe(Part& part, const Node& geometry, const Node* appearance) {
   const Owner* owner = m_owners.empty() ? nullptr : &m_owners.back();
   part.name = owner ? owner->name : "";
   if (part.kind == PartKind::Lines) part.name += part.name.empty() ? "Lines" : " lines";
   if (part.kind == PartKind::Text) {
     const auto& strings = geometry.Strings("string");
-    part.name = strings.empty() ? "" : strings[0];
-    if (strings.size() > 1) part.name += " to " + strings.back();
+    part.name = strings.empty() ? "Text" : "Text " + strings[0];
   }
+  const auto key = m_legend.find(appearance);
+  const bool isKey = owner && owner->instance->Find("keyAppearances") >= 0;
+  if (isKey && part.kind == PartKind::Faces && key != m_legend.end())
+    part.name += " " + key->second;
   if (part.name.empty()) part.name = "Shape";
   const int count = ++m_used[part.name];
   if (count > 1) part.name += " " + std::to_string(count);

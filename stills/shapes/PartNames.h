@@ -23,7 +23,7 @@ class PartNames {
   void Leave() { m_owners.pop_back(); }
 
   /// Gives a part its name and, to the faces of a series, its values.
-  void Describe(Part& part, const Node& geometry);
+  void Describe(Part& part, const Node& geometry, const Node* appearance);
 
  private:
   struct Owner {

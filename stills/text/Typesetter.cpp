@@ -98,10 +98,10 @@ class Typesetter::Fonts {
 
  private:
   Font& Main(const Style& style) {
-    const std::string_view family = style.family.empty() ? "SERIF" : style.family[0];
+    const std::string family = style.family.empty() ? "SERIF" : style.family[0];
     const std::string_view data = FontFile(family, style.isBold, style.isItalic);
-    auto& font = m_fonts[std::string(family) + (style.isBold ? "/bold" : "") +
-                         (style.isItalic ? "/italic" : "")];
+    auto& font =
+        m_fonts[family + (style.isBold ? "/bold" : "") + (style.isItalic ? "/italic" : "")];
     if (!font) font = std::make_unique<Font>(m_library, data);
     return *font;
   }

@@ -33,21 +33,26 @@ class Basket final : public Object {
         Describe<Basket>("Holds one value of every type.")
             .Property<bool>("Open", &Basket::Open, &Basket::Open, {})
             .Property<std::int16_t>("Count", &Basket::Count, &Basket::Count, {})
-            .Property<std::int32_t>("Color", &Basket::Color, &Basket::Color, {})
+            .Color("Color", &Basket::Color, &Basket::Color, {})
             .Property<float>("Weight", &Basket::Weight, &Basket::Weight, {})
             .Property<std::string>("Label", &Basket::Label, &Basket::Label, {})
             .Property<Fruit>("Kind", &Basket::Kind, &Basket::Kind, {})
             .Property<std::string>("Maker", &Basket::Maker, {})
             .Method("Sum", &Basket::Sum, {"a", {"b", 10}}, {})
             .Method("Take", &Basket::Take, {"other"}, {})
-            .Indexed<float>("Item", &Basket::Item, &Basket::Item, {});
+            .Indexed<float>("Item", &Basket::Item, &Basket::Item, {})
+            .Event("Filled", &Basket::Filled, {"count"}, "A let of Count");
     return type;
   }
 
   bool Open() const { return m_open; }
   void Open(bool open) { m_open = open; }
   std::int16_t Count() const { return m_count; }
-  void Count(std::int16_t count) { m_count = count; }
+  void Count(std::int16_t count) {
+    m_count = count;
+    Filled(count);
+  }
+  host::Event<std::int16_t> Filled;
   std::int32_t Color() const { return m_color; }
   void Color(std::int32_t color) { m_color = color; }
   float Weight() const { return m_weight; }
@@ -92,6 +97,7 @@ TEST(LateBinding, ConvertsWhatItAccepts) {
       {"Weight", 0.5, 0.5F},
       {"Weight", "1e3", 1000.0F},
       {"Color", 16777215.0, 16777215},
+      {"Color", "#12aBff", 0xFFAB12},
       {"Label", 2024, "2024"},
       {"Label", 0.25, "0.25"},
       {"Kind", "pear", 1},
@@ -131,6 +137,10 @@ TEST(LateBinding, SaysWhatIsWrongAndChangesNothing) {
        "Type mismatch: Basket.Weight expects a number, got String \"heavy\""},
       {[&] { o.Let("Kind", "FIG"); }, TypeMismatch,
        "Type mismatch: Basket.Kind expects one of APPLE PEAR, got String \"FIG\""},
+      {[&] { o.Let("Color", "#12345"); }, TypeMismatch,
+       "Type mismatch: Basket.Color expects a colour (#rrggbb), got String \"#12345\""},
+      {[&] { (void)o.Subscribe("Color", {}); }, UnknownMember, "Basket has no event \"Color\""},
+      {[&] { o.Unsubscribe(1); }, NoSubscription, "Basket has no subscription 1"},
       {[&] { o.Let("Label", o.Self()); }, TypeMismatch,
        "Type mismatch: Basket.Label expects a String, got an object of class Basket"},
       {[&] { o.Call("Take", {3}); }, TypeMismatch,
@@ -161,6 +171,24 @@ TEST(LateBinding, FillsOptionalArgumentsAndIndexes) {
   const int id = basket->Type().IdOf("count");
   basket->Let(id, 9);
   EXPECT_EQ(basket->Get(id), Value(9));
+}
+
+TEST(LateBinding, CallsHandlersUntilTheyAreUnsubscribedAndPassesTheirErrorsOn) {
+  const auto basket = std::make_shared<Basket>();
+  std::vector<Value> heard;
+  const int all = basket->Subscribe("FILLED", [&](Object::Arguments arguments) {
+    heard.insert(heard.end(), arguments.begin(), arguments.end());
+  });
+  const int strict = basket->Subscribe("Filled", [](Object::Arguments arguments) {
+    Require(arguments[0] == Value(1), "One at most");
+  });
+  basket->Let("Count", 1);
+  EXPECT_EQ(ErrorOf([&] { basket->Let("Count", 2); }), tests::ComponentError("One at most"));
+  basket->Unsubscribe(strict);
+  basket->Let("Count", 3);
+  basket->Unsubscribe(all);
+  basket->Let("Count", 4);
+  EXPECT_EQ(heard, (std::vector<Value>{1, 2, 3}));
 }
 
 }  // namespace

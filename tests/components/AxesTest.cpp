@@ -99,28 +99,22 @@ TEST(Axis, PutsTheHeaderBesideTheMiddleOfTheLabels) {
   axis.AlignHeader();
   EXPECT_FLOAT_EQ(header.transform->translation.X(), -1.21F);
   EXPECT_FLOAT_EQ(header.transform->rotation.Angle(), -1.5708F);
+  axis.AlignHeader({{0, 3}, 0.5});
+  EXPECT_EQ(header.transform->translation.X(), -3);
+  EXPECT_EQ(header.transform->translation.Y(), -2.5F);
 }
 
-TEST(Axis, HidesAndShowsBothPartsInOrder) {
+TEST(Axis, LevelsLabelsOfAnyHeightBelowItsOrigin) {
   DiscreteAxis axis;
-  const auto parts = axis.Root()->children.Items();
-  for (const bool show : {false, true, true}) {
-    axis.ShowAxis(show);
-    EXPECT_EQ(axis.Root()->children.Items(), show ? parts : scene::MFNode::List());
-  }
+  axis.LabelHeight(2);
+  axis.LevelLabels(0.5);
+  EXPECT_FLOAT_EQ(PartOf(axis, 0).transform->translation.Y(), -1.7F);
 }
 
-TEST(Axis, RejectsGapsAndIgnoresUnknownEnumerators) {
+TEST(Axis, SpacesItsLinesByTheGap) {
   DiscreteAxis axis;
   EXPECT_EQ(ErrorOf([&] { axis.LabelTextGap(0); }),
             tests::ComponentError("Invalid label text gap, must be greater than 0"));
-  axis.LabelFont(VRMLFontFamily::VRML_SANS);
-  axis.LabelFont(static_cast<VRMLFontFamily>(7));
-  axis.HeaderStyle(static_cast<VRMLFontStyle>(-1));
-  axis.Alignment(static_cast<LabelAlignment>(2));
-  EXPECT_EQ(axis.LabelFont(), VRMLFontFamily::VRML_SANS);
-  EXPECT_EQ(axis.HeaderStyle(), VRMLFontStyle::VRML_PLAIN);
-  EXPECT_EQ(axis.Alignment(), LabelAlignment::LEFT_ALIGN);
   EXPECT_EQ(axis.LabelTextGap(), 0.1F);
   axis.LabelHeight(0.5F);
   EXPECT_FLOAT_EQ(PartOf(axis, 0).font->spacing.Value(), 0.2F);

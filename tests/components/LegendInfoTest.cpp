@@ -115,9 +115,8 @@ TEST_F(Legend, KeepsToggleAndBillboardApart) {
   EXPECT_EQ(Billboard()->children.Count(), 0);
 }
 
-TEST_F(Legend, MapsKeyStylesAndIgnoresOthers) {
+TEST_F(Legend, ReadsAnUnknownKeyStyleAsBoxes) {
   legend.KeyStyle(LegendKeyStyle::SPHERE_STYLE);
-  legend.KeyStyle(static_cast<LegendKeyStyle>(2));
   EXPECT_EQ(Proto()->keyStyle.Value(), "SPHERE");
   Proto()->keyStyle.Value("CONE");
   EXPECT_EQ(legend.KeyStyle(), LegendKeyStyle::BOX_STYLE);

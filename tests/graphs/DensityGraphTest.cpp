@@ -91,8 +91,6 @@ TEST_F(Density, RejectsAndChangesNothing) {
   EXPECT_EQ(chart->Sigma(), 0.8F);
   EXPECT_EQ(surface->Sigma(), 0.5F);
   EXPECT_EQ(surface->XCount(), 2);
-  surface->PopupZOffset(3);
-  EXPECT_EQ(surface->PopupZOffset(), 0);
   surface->Sigma(std::numeric_limits<float>::denorm_min());
 }
 

@@ -134,3 +134,16 @@ describe('nothing is drawn without a size or a count, and what is no number coun
     });
   }
 });
+
+test('a strip of many values finds the one that the line of sight comes upon', () => {
+  const heights = WAVE.map((height, i) => (i === 20 ? 20 : height));
+  const strip = draw('PopupStrip', { pointCount: 50, pointSpacing: 2, stripDepth: 1.05, pointHeights: heights },
+    { viewer: { position_changed: point(50, 30, 90) }, strip: { coord: {} }, home: {} });
+  const behind = (target) => {
+    const eye = strip.viewer.position_changed;
+    strip.set_stripHit(target.add(eye.subtract(target).multiply(0.01)));
+    return strip.pointed;
+  };
+  heights.forEach((height, i) => assert.equal(behind(point(2 * i, height, 1)), i));
+  assert.equal(behind(point(38, 19, 0.5)), -1); // beside the peak, above all others
+});

@@ -106,23 +106,6 @@ class Server : public testing::Test {
   orvane_error m_error{};
 };
 
-TEST_F(Server, MakesAChartAndExportsIt) {
-  const Result chart = Chart();
-  EXPECT_STREQ(chart->as.object->calls->ClassName(chart.Object()), "AreaGraph");
-  Let(Get(chart.Object(), "titleprops").Object(), "Text", Text("Größe"));
-  Let(Get(chart.Object(), "GridProps").Object(), "ZAxisCellCount", Int(1));
-  const Result series = Call(chart.Object(), "GetSeries", {Int(1)});
-  const std::vector<double> heights = {1, 3.5, 2};
-  Let(Get(series.Object(), "Height").Object(), "Items", Row(heights));
-
-  const Result world = Call(chart.Object(), "ExportToString", {Boolean(true), Boolean(false)});
-  ASSERT_EQ(world->type, ORVANE_STRING);
-  EXPECT_TRUE(world.Text().starts_with("#VRML V2.0 utf8\n"));
-  EXPECT_EQ(world->as.string[world->count], '\0');
-  EXPECT_NE(world.Text().find("\"Größe\""), std::string::npos);
-  EXPECT_NE(world.Text().find("[ 1, 3.5, 2 ]"), std::string::npos);
-}
-
 TEST_F(Server, IsNotUnloadedWhileAnythingIsHeld) {
   EXPECT_EQ(m_canUnload(), ORVANE_OK);
   orvane_class* factory = nullptr;
@@ -155,7 +138,7 @@ TEST_F(Server, PassesValuesOfEveryType) {
   EXPECT_EQ(Call(control.Object(), "CreateFactory").Object(), factory.Object());
   const Result chart = Call(factory.Object(), "CreateAreaGraph");
   const Result title = Get(chart.Object(), "TitleProps");
-  const std::string texts[] = {"", "a\"b", std::string(100000, 'x')};
+  const std::string texts[] = {"", "a\"b", "Größe", std::string(100000, 'x')};
   for (const auto& text : texts) {
     Let(title.Object(), "Text", Text(text));
     EXPECT_EQ(Get(title.Object(), "Text").Text(), text);
@@ -243,6 +226,40 @@ TEST_F(Server, TellsWhatIsWrongAndChangesNothing) {
             ORVANE_ERROR_NO_CLASS);
   EXPECT_EQ(m_getClass(nullptr, &none, nullptr), ORVANE_ERROR_POINTER);
   EXPECT_EQ(m_getClass(ORVANE_TEMPLATE_CTL, nullptr, nullptr), ORVANE_ERROR_POINTER);
+}
+
+/// Notes the argument of each event; refuses 7.
+orvane_status Note(void* context, const orvane_value* arguments, size_t count,
+                   orvane_error* error) {
+  EXPECT_EQ(count, 1U);
+  static_cast<std::vector<int32_t>*>(context)->push_back(arguments->as.int32);
+  if (arguments->as.int32 != 7) return ORVANE_OK;
+  *error = {0, "Host", "Not seven"};
+  return 0x80040001;
+}
+
+TEST_F(Server, CallsHandlersOfEventsAndPassesTheirErrorsOn) {
+  EXPECT_EQ(Entry<orvane_OrvaneComponentVersion>("OrvaneComponentVersion")(), 2U);
+  const Result chart = Chart();
+  const Result grid = Get(chart.Object(), "GridProps");
+  const auto* calls = grid->as.object->calls;
+  std::vector<int32_t> heard;
+  int32_t subscription = 0;
+  ASSERT_EQ(
+      calls->Subscribe(grid.Object(), "ycellcountchanged", Note, &heard, &subscription, &m_error),
+      ORVANE_OK);
+  Let(grid.Object(), "YAxisCellCount", Int(3));
+  EXPECT_EQ(Invoke(grid.Object(), "YAxisCellCount", ORVANE_LET, {Int(7)}, nullptr), 0x80040001U);
+  EXPECT_EQ(m_error.source + std::string(": ") + m_error.description, "Host: Not seven");
+  EXPECT_EQ(calls->Unsubscribe(grid.Object(), subscription, &m_error), ORVANE_OK);
+  EXPECT_EQ(calls->Unsubscribe(grid.Object(), subscription, &m_error), 0x80040200U);
+  Let(grid.Object(), "YAxisCellCount", Int(5));
+  EXPECT_EQ(heard, (std::vector<int32_t>{3, 7}));
+  EXPECT_EQ(calls->Subscribe(grid.Object(), "Width", Note, &heard, &subscription, &m_error),
+            0x80020006U);
+  EXPECT_EQ(calls->Subscribe(grid.Object(), "YCellCountChanged", nullptr, nullptr, &subscription,
+                             &m_error),
+            ORVANE_ERROR_POINTER);
 }
 
 TEST_F(Server, ListsItselfForTheUserAndUndoesThatCompletely) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orvane/tables/read/Table.h"
+#include "orvane/tables/read/TableInput.h"
 
 #include <string>
 #include <utility>
@@ -23,7 +24,7 @@ std::string ComplaintOf(F&& call) {
 }
 
 inline tables::Table TableOf(const std::string& text, const std::string& file = "t.csv") {
-  return tables::ReadTable(tables::Source(file, text), tables::MissingCell::Error);
+  return tables::ReadTable(*tables::TableText(file, text).open({}));
 }
 
 inline void ExpectNear(const std::vector<float>& actual, const std::vector<float>& expected) {

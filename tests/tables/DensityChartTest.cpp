@@ -11,7 +11,9 @@
 namespace orvane::tables {
 namespace {
 
-CloudTable CloudsOf(const std::string& text) { return ReadCloudTable(Source("p.csv", text)); }
+CloudTable CloudsOf(const std::string& text) {
+  return ReadCloudTable(*TableText("p.csv", text).open({}));
+}
 
 TEST(CloudTable, GathersGroupsInTheOrderOfTheFile) {
   const auto table = CloudsOf("Long,Deep,Kind\n1,2, b\n\"3\",-4e1,a\n5,6,b\n");

@@ -2,6 +2,7 @@
 #include "support/Tables.h"
 
 #include "orvane/tables/PieChart.h"
+#include "orvane/tables/layout/PieLayout.h"
 #include "orvane/tables/layout/Texts.h"
 
 #include <cmath>
@@ -13,7 +14,9 @@ namespace orvane::tables {
 namespace {
 
 std::vector<PieShare> SharesOf(const std::string& text) {
-  return ReadPieTable(Source("t.csv", text), MissingCell::Zero);
+  ReadOptions options;
+  options.missing = Missing::Zero;
+  return PieSharesOf(ReadTable(*TableText("t.csv", text).open(options), options));
 }
 
 /// Where each slice ends, clockwise from +x, as the exported scene has it.
@@ -41,7 +44,7 @@ void ExpectClosed(const std::vector<PieShare>& shares) {
 
 TEST(PieChart, ClosesTheRing) {
   const Table rain =
-      ReadTable(Source::Read(ORVANE_SOURCE_DIR "/examples/data/seattle-rain.csv"), {});
+      ReadTable(*TableFile(ORVANE_SOURCE_DIR "/examples/data/seattle-rain.csv").open({}));
   std::string rows = "Month,Rain";
   int count = 0;
   for (const TableSeries& year : rain.series) {
@@ -122,7 +125,7 @@ TEST(PieLayout, KeepsLabelsClearOfPieLegendAndEachOther) {
         const double x = label.distance * std::cos(label.angle);
         const double z = label.distance * std::sin(label.angle);
         const double half = TextWidth(label.text, layout.textHeight) / 2;
-        EXPECT_LT(x + half, layout.legendPlace.x);
+        EXPECT_LT(x + half, layout.LegendPlace().x);
         for (const double corner : {x - half, x, x + half}) {
           EXPECT_GT(std::hypot(corner, z), layout.radius) << count;
         }

@@ -8,7 +8,9 @@
 namespace orvane::tables {
 namespace {
 
-PointTable TableOf(const std::string& text) { return ReadPointTable(Source("t.csv", text)); }
+PointTable TableOf(const std::string& text) {
+  return ReadPointTable(*TableText("t.csv", text).open({}));
+}
 
 struct Sphere {
   float x, y, z, radius;

@@ -118,7 +118,7 @@ TEST(GridLayout, KeepsLabelsApartAndReadable) {
   for (const int categories : {1, 2, 12, 60, 400, 5000}) {
     for (const int series : {1, 3, 20, 200}) {
       if (categories * series > 100000) continue;
-      const GridLayout layout = LayOutGrid(Large(categories, series), {});
+      const GridLayout layout = LayOutSeries(Large(categories, series), {});
       const auto check = [&](const LabelColumn& column, double pitch) {
         double last = -1e9;
         int shown = 0;
@@ -143,7 +143,7 @@ TEST(GridLayout, KeepsLabelsApartAndReadable) {
 
 TEST(GridLayout, CutsLongLabelsToOneLine) {
   const GridLayout layout =
-      LayOutGrid(TableOf("m,a\n\"a\nb\",1\näöüäöüäöüäöüäöüäöüäöüäöüx,2\n"), {});
+      LayOutSeries(TableOf("m,a\n\"a\nb\",1\näöüäöüäöüäöüäöüäöüäöüäöüx,2\n"), {});
   EXPECT_EQ(layout.xLabels.texts, (std::vector<std::string>{"a b", "äöüäöüäöüäöüäöüäöüäöüäö…"}));
 }
 

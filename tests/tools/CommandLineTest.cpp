@@ -1,7 +1,8 @@
 /// The program as a whole: files, exit statuses, messages.
-#include "ProtoFiles.h"
 #include "support/Program.h"
 #include "support/ScratchFolder.h"
+
+#include "orvane/scene/ProtoFiles.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -218,7 +219,8 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
        "--size: nan is not a number from 0.1 to 10000\n"},
       {2, "chart area t.csv -o o.wrl --background red",
        "--background: red is not a colour (#rrggbb)\n"},
-      {2, "chart area t.csv -o o.wrl --missing one", "--missing: one is not one of zero\n"},
+      {2, "chart area t.csv -o o.wrl --missing one",
+       "--missing: one is not one of error|zero|previous|linear\n"},
       {1, "chart pie negative.csv -o o.wrl", "negative.csv:2:3: the value -1 is negative\n"},
       {2, "chart pie t.csv --style flat -o o.wrl",
        "--style: flat is not one of outlined|rounded|ring\n"},

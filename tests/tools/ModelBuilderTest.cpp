@@ -78,7 +78,8 @@ constexpr BadModel kBadMembers[] = {
     {R"("XAxisProps": {"Labels": ["a", ["b", "c"]]})",
      "m.json:2:32: XAxisProps.Labels[2]: MFString.Append takes 1 argument(s), got 2"},
     {R"("TitleProps": {"TextColor": "#12345"})",
-     "m.json:2:29: TitleProps.TextColor: \"#12345\" is not a colour (#rrggbb)"},
+     "m.json:2:29: TitleProps.TextColor: Type mismatch: TextInfo.TextColor expects a colour "
+     "(#rrggbb), got String \"#12345\""},
     {R"("Viewpoints": {"AddViewpoint": {}})",
      "m.json:2:32: Viewpoints.AddViewpoint: expected an array of arguments"},
     {R"("Viewpoints": {"AddViewpoint": [{"position": [1, 2]}]})",
@@ -91,15 +92,12 @@ constexpr BadModel kBadMembers[] = {
     {R"("series": {})", "m.json:2:11: series: expected an array with an object for each series"},
     {R"("GridProps": {"Width": 1, "Width": 2})",
      "m.json:2:27: the key \"Width\" stands twice in one object"},
-    {R"("GridProps": {"Width": 1,})",
-     "m.json:2:26: syntax error while parsing object key - unexpected '}'; expected string "
-     "literal"},
     {R"("GridProps": {"Width": 1e999})", "m.json:2:28: number overflow parsing '1e999'"},
 };
 
 TEST(Model, NamesThePlaceOfWhatIsWrong) {
   for (const auto& [model, message] : kBadMembers) {
-    EXPECT_EQ(ComplaintOf([&] { Build(model); }), message);
+    EXPECT_EQ(ComplaintOf([&] { Build(model); }), message) << model;
   }
 }
 
@@ -108,16 +106,13 @@ TEST(Model, IsAJsonObjectThatNamesItsChart) {
       {"",
        "m.json:1:1: syntax error while parsing value - unexpected end of input; expected '[', "
        "'{', or a literal"},
-      {"{",
-       "m.json:1:2: syntax error while parsing object key - unexpected end of input; expected "
-       "string literal"},
       {"[]", "m.json:1:1: a model is a JSON object"},
       {"{}", "m.json:1:1: the model does not name the class of its \"chart\""},
       {"{\"chart\": 1}", "m.json:1:11: chart: the class of a chart is a text"},
       {"{\n \"chart\": \"Chart\"}", "m.json:2:11: chart: there is no chart class \"Chart\""},
   };
   for (const auto& [model, message] : models) {
-    EXPECT_EQ(ComplaintOf([&] { BuildModel(tables::Source("m.json", model)); }), message);
+    EXPECT_EQ(ComplaintOf([&] { BuildModel(tables::Source("m.json", model)); }), message) << model;
   }
   const std::string deep = std::string(100000, '[');
   EXPECT_THROW(BuildModel(tables::Source("m.json", deep)), tables::FileError);

@@ -42,16 +42,16 @@ void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostre
                      std::ostream& err) {
   CLI::App& command = *charts.add_subcommand(kind.name, kind.help);
   const auto request = std::make_shared<ChartRequest>();
-  command.add_option("table", request->table, "CSV table: " + kind.table)
+  command.add_option("table", request->table, "CSV table, or - for standard input: " + kind.table)
       ->required()
       ->type_name("DATA.csv");
   for (const auto& option : kind.options) AddOption(command, option, request->options);
   AddOutputOptions(command, request->output);
   command.callback([request, &kind, &out, &err] {
     const auto& surface = request->options.surface;
-    const auto inputs = {fs::path(request->table), fs::path(surface ? surface->Name() : "")};
+    const auto inputs = {fs::path(request->table), fs::path(surface ? surface->name : "")};
     WriteWorld(request->output, inputs, out, [&] {
-      const auto made = kind.make(tables::Source::Read(request->table), request->options);
+      const auto made = kind.make(tables::TableFile(request->table), request->options);
       for (const auto& remark : made.remarks) err << remark << '\n';
       return made.chart->ExportToString(true, true);
     });

@@ -1,13 +1,16 @@
 #include "CommandLine.h"
 
 #include "ChartCommands.h"
+#ifdef ORVANE_STILLS
+#include "ConvertCommand.h"
+#endif
 #include "ModelBuilder.h"
-#include "Output.h"
 #include "ProtoLocation.h"
 #include "TypesReference.h"
 #include "WorldOutput.h"
 
 #include "orvane/automation/AutomationError.h"
+#include "orvane/scene/ProtoFiles.h"
 #include "orvane/scene/Utf8.h"
 #include "orvane/tables/read/Source.h"
 
@@ -86,6 +89,9 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   app.require_subcommand(1);
   AddChartCommands(app, out, err);
   AddBuildCommand(app, out);
+#ifdef ORVANE_STILLS
+  AddConvertCommand(app);
+#endif
   AddProtosCommand(app);
   AddSettingsCommand(app, out);
   AddTypesCommand(app, out);
@@ -104,7 +110,9 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   } catch (const tables::FileError& error) {
     err << error.what() << "\n";
   } catch (const host::AutomationError& error) {
-    err << "orvane: " << error.Description() << "\n";
+    // What is wrong with a file begins with its name.
+    const bool isOfFile = error.Number() == host::ErrorNumber::FileAccess;
+    err << (isOfFile ? "" : "orvane: ") << error.Description() << "\n";
   } catch (const std::system_error& error) {
     err << "orvane: " << error.what() << "\n";
   }

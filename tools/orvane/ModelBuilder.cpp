@@ -5,7 +5,6 @@
 #include "orvane/automation/AutomationError.h"
 #include "orvane/automation/Coercion.h"
 #include "orvane/control/ObjectModel.h"
-#include "orvane/tables/layout/Color.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -92,8 +91,8 @@ class ModelBuilder {
       ApplyMembers(object, *members, input);
     } else if (const auto* elements = input.json.If<JsonValue::Array>()) {
       ApplyElements(object, *elements, input);
-    } else if (const int value = type.Find("Value"); value >= 0) {
-      ApplyProperty(object, value, input);
+    } else if (const auto& value = type.ValueMembers(); value.size() == 1) {
+      ApplyProperty(object, value[0], input);
     } else {
       Fail(input, "expected a JSON object with members of " + type.Name());
     }
@@ -185,7 +184,8 @@ class ModelBuilder {
   /// Appends to a list, or sets the components of a rotation or vector.
   void ApplyElements(Object& object, const JsonValue::Array& elements, const Input& input) const {
     const host::TypeInfo& type = object.Type();
-    if (const int append = type.Find("Append"); append >= 0) {
+    if (!type.Entry().name.empty()) {
+      const int append = type.IdOf("Append");
       for (std::size_t i = 0; i < elements.size(); ++i) {
         const auto* row = elements[i].If<JsonValue::Array>();
         const Input element = ElementOf(input, i);
@@ -194,21 +194,18 @@ class ModelBuilder {
       }
       return;
     }
-    if (const int setValue = type.Find("SetValue"); setValue >= 0) {
-      ApplyRow(object, setValue, elements, input);
+    const std::vector<int>& parts = type.ValueMembers();
+    if (parts.size() == 1 && MemberOf(object, parts[0]).isMethod) {
+      ApplyRow(object, parts[0], elements, input);
       return;
     }
-    std::vector<int> components;
-    for (const char* name : {"X", "Y", "Z"}) {
-      if (const int id = type.Find(name); id >= 0) components.push_back(id);
-    }
-    if (components.empty()) Fail(input, type.Name() + " is not a list");
-    if (components.size() != elements.size()) {
-      Fail(input, type.Name() + " takes " + std::to_string(components.size()) + " numbers, got " +
+    if (parts.size() < 2) Fail(input, type.Name() + " is not a list");
+    if (parts.size() != elements.size()) {
+      Fail(input, type.Name() + " takes " + std::to_string(parts.size()) + " numbers, got " +
                       std::to_string(elements.size()));
     }
     for (std::size_t i = 0; i < elements.size(); ++i) {
-      ApplyProperty(object, components[i], ElementOf(input, i));
+      ApplyProperty(object, parts[i], ElementOf(input, i));
     }
   }
 
@@ -232,18 +229,12 @@ class ModelBuilder {
     return *object;
   }
 
-  /// A scalar as the argument of a call or let. "#rrggbb" is a colour where a 32-bit whole number
-  /// is expected; the number of an enumerator must be one, which the object model itself lets pass.
+  /// A scalar as the argument of a call or let. The number of an enumerator must be one, which the
+  /// object model itself lets pass.
   Value ToArgument(const Input& input, const ValueType& type) const {
     const auto* value = input.json.If<Value>();
     if (value == nullptr) {
       Fail(input, "expected a single value" + (type.name.empty() ? "" : " (" + type.name + ")"));
-    }
-    const auto* text = value->If<std::string>();
-    if (type.name == "Int32" && text != nullptr && text->starts_with('#')) {
-      const auto color = tables::ParseColor(*text);
-      if (!color) Fail(input, "\"" + *text + "\" is not a colour (#rrggbb)");
-      return *color;
     }
     if (const auto* number = value->If<std::int32_t>(); number != nullptr && type.enumeration) {
       const auto& enumerators = type.enumeration->Enumerators();

@@ -21,11 +21,11 @@ struct ProtoChoice {
   std::optional<std::string> outputDir;
 };
 
-/// Makes a choice on the control's property page. Raises FileError, and changes nothing, when the
-/// page or the control refuses it.
+/// Saves a choice in the settings. Raises FileError, or PathNotFound for a folder that is not
+/// there, and changes nothing, when the control's property page would refuse it.
 void ChooseProtos(const ProtoChoice& choice);
 
-/// Writes what the page shows, and the path that a new control has.
+/// Writes the two settings, and the path that a new control has.
 void ShowProtoSettings(std::ostream& out);
 
 }  // namespace orvane::tool

@@ -17,19 +17,28 @@ using host::EnumInfo;
 using host::Member;
 using host::TypeInfo;
 
-std::string Signature(const Member& member) {
-  std::string text = "`" + member.name;
-  if (member.isMethod || !member.parameters.empty()) {
-    text += "(";
-    for (const auto& parameter : member.parameters) {
-      if (&parameter != &member.parameters.front()) text += ", ";
-      if (parameter.isOut) text += "out ";
-      text += parameter.name + ": " + parameter.type.name;
-      if (!parameter.fallback.IsEmpty()) text += " = " + host::ToText(parameter.fallback);
-    }
-    text += ")";
+std::string Signature(const std::string& name, const std::vector<host::Parameter>& parameters) {
+  std::string text = "`" + name + "(";
+  for (const auto& parameter : parameters) {
+    if (&parameter != &parameters.front()) text += ", ";
+    if (parameter.isOut) text += "out ";
+    text += parameter.name + ": " + parameter.type.name;
+    if (!parameter.fallback.IsEmpty()) text += " = " + host::ToText(parameter.fallback);
   }
-  return text + "`";
+  return text + ")`";
+}
+
+/// What the property or the parameters of the method accept.
+std::string RangeOf(const Member& member) {
+  std::string text = member.help.range.Text();
+  for (const auto& parameter : member.parameters) {
+    const std::string range = parameter.range.Text();
+    if (range.empty() || parameter.isOut) continue;
+    if (!text.empty()) text += ", ";
+    text +=
+        parameter.name + (std::isdigit(static_cast<unsigned char>(range[0])) ? ": " : " ") + range;
+  }
+  return text;
 }
 
 std::string Access(const Member& member) {
@@ -46,18 +55,26 @@ std::string TypeName(const host::ValueType& type, const std::set<std::string>& l
   return "[" + type.name + "](#" + anchor + ")";
 }
 
-void WriteMember(std::ostream& out, const Member& member, const std::set<std::string>& linked) {
-  out << "| " << Signature(member) << " | " << TypeName(member.type, linked) << " | "
-      << Access(member) << " | " << member.help.text;
+void WriteMember(std::ostream& out, host::Object& fresh, const Member& member,
+                 const std::set<std::string>& linked) {
+  const bool isPlain = !member.isMethod && member.parameters.empty();
+  out << "| " << (isPlain ? "`" + member.name + "`" : Signature(member.name, member.parameters))
+      << " | " << TypeName(member.type, linked) << " | " << Access(member) << " | "
+      << member.help.text;
   if (!member.help.unit.empty()) out << ", in " << member.help.unit;
-  out << " | " << member.help.range << " | " << member.help.initial << " |\n";
+  out << " | " << RangeOf(member) << " | " << InitialText(fresh, member) << " |\n";
 }
 
-void WriteClass(std::ostream& out, const TypeInfo& type, const std::set<std::string>& linked) {
+void WriteClass(std::ostream& out, host::Object& fresh, const std::set<std::string>& linked) {
+  const TypeInfo& type = fresh.Type();
   out << "## " << type.Name() << "\n\n" << type.Text() << "\n\n";
   if (type.Members().empty()) return;
   out << "| Member | Type | Access | Meaning | Range | Initially |\n|---|---|---|---|---|---|\n";
-  for (const Member& member : type.Members()) WriteMember(out, member, linked);
+  for (const Member& member : type.Members()) WriteMember(out, fresh, member, linked);
+  for (const auto& event : type.Events()) {
+    out << "| " << Signature(event.name, event.parameters) << " |  | event | " << event.text
+        << " |  |  |\n";
+  }
   out << "\n";
 }
 
@@ -96,13 +113,17 @@ void WriteTypesReference(std::ostream& out) {
          "with\n"
          "parameters marked `out` is called without them and hands back their values, in order, as "
          "a\n"
-         "row of numbers. Written by `orvane types`; do not edit by hand.\n\n";
+         "row of numbers. To *let* a property is to set it. A Color is a 32-bit whole number, red "
+         "in bits\n"
+         "0-7, green in 8-15, blue in 16-23, or a text such as \"#ff8000\". Written by `orvane "
+         "types`; do\n"
+         "not edit by hand.\n\n";
   const auto objects = ObjectModel();
   std::set<std::string> linked;
   for (const auto& object : objects) linked.insert(object->Type().Name());
   std::vector<const EnumInfo*> enumerations;
   for (const auto& object : objects) {
-    WriteClass(out, object->Type(), linked);
+    WriteClass(out, *object, linked);
     CollectEnumerations(object->Type(), enumerations);
   }
   WriteEnumerations(out, enumerations);
@@ -111,7 +132,7 @@ void WriteTypesReference(std::ostream& out) {
 bool WriteTypeReference(std::ostream& out, std::string_view className) {
   for (const auto& object : ObjectModel()) {
     if (!host::EqualNoCase(object->Type().Name(), className)) continue;
-    WriteClass(out, object->Type(), {});
+    WriteClass(out, *object, {});
     std::vector<const EnumInfo*> enumerations;
     CollectEnumerations(object->Type(), enumerations);
     WriteEnumerations(out, enumerations);

@@ -1,25 +1,11 @@
 #include "WorldOutput.h"
 
-#include "Output.h"
-#include "ProtoFiles.h"
 #include "ProtoLocation.h"
 
-#include "orvane/tables/read/Source.h"
-
-#include <system_error>
+#include "orvane/scene/ProtoFiles.h"
 
 namespace orvane::tool {
-namespace {
-
 namespace fs = std::filesystem;
-
-std::vector<OutputFile> ProtosIn(const fs::path& folder) {
-  std::vector<OutputFile> files;
-  for (const ProtoFile& proto : ProtoFiles()) files.push_back({folder / proto.name, proto.text});
-  return files;
-}
-
-}  // namespace
 
 void AddOutputOptions(CLI::App& command, WorldOutput& output) {
   command.add_option("-o,--output", output.path, "World to write, - for standard output")
@@ -47,16 +33,9 @@ void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, 
     out << world;
     return;
   }
-  auto files = isBesideProtos ? ProtosIn(path.parent_path()) : std::vector<OutputFile>();
+  auto files = isBesideProtos ? ProtoFilesIn(path.parent_path()) : std::vector<host::OutputFile>();
   files.push_back({path, world});
-  WriteFiles(files, inputs);
-}
-
-void WriteProtos(const fs::path& folder) {
-  std::error_code error;
-  fs::create_directories(folder, error);
-  if (error) throw tables::FileError(folder.string() + ": cannot be made: " + error.message());
-  WriteFiles(ProtosIn(folder));
+  host::WriteFiles(files, inputs);
 }
 
 }  // namespace orvane::tool

@@ -26,7 +26,4 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output);
 void WriteWorld(const WorldOutput& output, const std::vector<std::filesystem::path>& inputs,
                 std::ostream& out, const std::function<std::string()>& makeWorld);
 
-/// Writes the three PROTO files to `folder`, which is made when missing. Raises FileError.
-void WriteProtos(const std::filesystem::path& folder);
-
 }  // namespace orvane::tool

@@ -22,8 +22,9 @@ const SHAPES = {
 };
 
 serve({
-  files: { 'table.csv': TABLE },
+  files: { 'table.csv': TABLE, 'large.csv': 'Source,Energy\nCoal,65\nWind,35\n' },
   charts: {
+    'large.wrl': 'chart pie large.csv',
     'pie.wrl': 'chart pie table.csv',
     'rounded.wrl': 'chart pie table.csv --style rounded --spin',
     'ring.wrl': 'chart pie table.csv --style ring --labels always',
@@ -45,6 +46,7 @@ async function slice(number, shape) {
       view.at(inner, [2.2 * middle[0] + x, height, 2.2 * middle[2] + aside])),
     // On the floor, so far out from the axis along the middle of the slice.
     along: (distance) => view.at(inner, middle.map((part) => distance * part)),
+    middle: [middle[0], middle[2]],
     tip: () => view.at(inner, [0, 0, 0]),
     moved: () => view.read(inner, 'translation'),
   };
@@ -91,6 +93,20 @@ describe('a slice', () => {
       await assertToggles(`CHECK_BOX_${number}`, path(number), [path(other)]);
     });
   }
+
+  test('of more than half the pie goes out when it is pulled inwards', async () => {
+    await open('large.wrl');
+    const { above, middle, moved } = await slice(1, SHAPES['pie.wrl']);
+    const [start, out, inwards] = await Promise.all(
+      [0, 1, -1].map((way) => above(way * middle[0], way * middle[1])));
+    await view.press(start);
+    await view.move(out);
+    assertNear(await moved(), [0, 0, 0], 1e-6, 'pulled outwards');
+    await view.move(inwards);
+    // Its first side, on which the sensor lies, is 117 degrees from its middle.
+    assertNear(await moved(), [-Math.cos(0.65 * Math.PI), 0, 0], 0.1, 'pulled inwards');
+    await view.release();
+  });
 
   test('shows its text while it is pressed', async () => {
     await open('pie.wrl');

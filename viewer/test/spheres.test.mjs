@@ -8,6 +8,7 @@ import { assertNear, open, serve, view } from './worlds.mjs';
 const RED = [0.8, 0, 0];
 const BLUE = [0, 0, 0.8];
 const SKY = [0, 128, 0];
+const SKY_COLOR = SKY.map((part) => part / 255).join(' ');
 
 // The spheres that the tests look at, all in the plane z = 0, with space around them. The last one
 // has neither colour nor radius.
@@ -27,7 +28,8 @@ const INTERFACE = [
   'MFColor colors', 'MFFloat transparencies', 'MFFloat radii',
 ];
 
-// The spheres above, and `hidden` more of radius 0 before them.
+// The spheres above, nearly half of each before a wall in the colour of the sky, and `hidden` more of radius 0
+// before them.
 function world(hidden) {
   const styled = SPHERES.filter(({ color }) => color);
   const list = (entry, values) => [...Array(hidden).fill(entry), ...values].join(', ');
@@ -35,8 +37,15 @@ function world(hidden) {
 EXTERNPROTO qm4_SphereCollection [
   ${INTERFACE.map((field) => `exposedField ${field}`).join('\n  ')}
 ] "VR_GRAPH.wrl#qm4_SphereCollection"
-Background { skyColor ${SKY.map((part) => part / 255).join(' ')} }
+Background { skyColor ${SKY_COLOR} }
 Viewpoint { position 0 0 ${EYE} fieldOfView ${VIEW_ANGLE} }
+Shape {
+  appearance Appearance { material Material { diffuseColor 0 0 0 emissiveColor ${SKY_COLOR} } }
+  geometry IndexedFaceSet {
+    coord Coordinate { point [ -30 -30 0.05, 30 -30 0.05, 30 30 0.05, -30 30 0.05 ] }
+    coordIndex [ 0 1 2 3 -1 ]
+  }
+}
 DEF SPHERES qm4_SphereCollection {
   scale ${SCALE} ${SCALE} ${SCALE}
   locations [ ${list('0 0 0', SPHERES.map(({ place }) => place.join(' ')))} ]

@@ -12,13 +12,9 @@ using host::Single;
 
 CategoryGraph::CategoryGraph() { AssembleGrid(*m_xAxis, *m_zAxis, m_interactivity.get()); }
 
-void CategoryGraph::AlignXAxis() {
-  Place(*m_xAxis, XAxisPlacement(*m_xAxis, Grid(), LabelsAt::Cells));
-}
+void CategoryGraph::AlignXAxis() { PlaceXAxis(*m_xAxis, Grid(), Placement().xAxis); }
 
-void CategoryGraph::AlignZAxis() {
-  Place(*m_zAxis, ZAxisPlacement(*m_zAxis, Grid(), LabelsAt::Cells));
-}
+void CategoryGraph::AlignZAxis() { PlaceZAxis(*m_zAxis, Grid(), Placement().zAxis); }
 
 void CategoryGraph::BuildNavigation() {
   if (m_interactivity->UseDrillUp()) PlaceDrillUp(*m_interactivity->DrillUpProps(), Grid());

@@ -10,11 +10,9 @@ const host::TypeInfo& ColumnSeriesInfo::Type() const {
       host::Describe<Series>("One series of a column chart.")
           .With(DescribeDepth<Series>)
           .Property<float>("Width", &Series::Width, &Series::Width,
-                           {"Extent of a column along X", "scene units", "> 0", "1"})
+                           {"Extent of a column along X", "scene units", host::kPositive})
           .With(DescribeData<Series>)
-          .With([](auto& series) {
-            DescribeStyle<Series, ColumnStyle>(series, "OUTLINED_COLUMN", "0.1");
-          });
+          .With(DescribeStyle<Series, ColumnStyle>);
   return type;
 }
 

@@ -12,19 +12,19 @@ namespace orvane {
 template <class G>
 void DescribeColumns(host::Describe<G>& graph) {
   graph.With(DescribeComponents<G>)
-      .Method("GetSeries", &G::GetSeries, {"Index", {"cellIndex", 1}},
-              {"The series of one Z row and slot", "", "1..Z cells, 1..ColumnsPerCell"})
+      .Method("GetSeries", &G::GetSeries,
+              {{"Index", host::UpTo("Z cells")}, {"cellIndex", host::UpTo("ColumnsPerCell"), 1}},
+              {"The series of one Z row and slot"})
       .With(DescribeInteractivity<G>)
       .template Property<ColumnCellSpacing>("ColumnSpacingStyle", &G::ColumnSpacingStyle,
-                                            &G::ColumnSpacingStyle,
-                                            {"How the slots share a cell", "", "", "EVENLY_SPACED"})
+                                            &G::ColumnSpacingStyle, {"How the slots share a cell"})
       .With(DescribeViews<G>);
 }
 
 template <class G>
 void DescribeColumnsPerCell(host::Describe<G>& graph) {
   graph.template Property<std::int16_t>("ColumnsPerCell", &G::ColumnsPerCell, &G::ColumnsPerCell,
-                                        {"Slots side by side in each cell", "", ">= 1", "1"});
+                                        {"Slots side by side in each cell", "", host::kAtLeastOne});
 }
 
 }  // namespace orvane

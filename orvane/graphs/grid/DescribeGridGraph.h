@@ -40,8 +40,8 @@ void DescribeInteractivity(host::Describe<G>& graph) {
 template <class G>
 void DescribeSeries(host::Describe<G>& graph) {
   graph.With(DescribeComponents<G>)
-      .Method("GetSeries", &G::GetSeries, {"Index"},
-              {"One series; their number is the grid's Z cell count", "", "1..number of series"})
+      .Method("GetSeries", &G::GetSeries, {{"Index", host::UpTo("Z cells")}},
+              {"One series; their number is the grid's Z cell count"})
       .With(DescribeInteractivity<G>)
       .With(DescribeViews<G>);
 }

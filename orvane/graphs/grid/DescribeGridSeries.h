@@ -13,7 +13,7 @@ namespace orvane {
 template <class S>
 void DescribeDepth(host::Describe<S>& series) {
   series.template Property<float>("Depth", &S::Depth, &S::Depth,
-                                  {"Thickness along Z", "scene units", "> 0", "1"});
+                                  {"Thickness along Z", "scene units", host::kPositive});
 }
 
 /// Material, Height, LegendText and PopupProps.
@@ -25,16 +25,15 @@ void DescribeData(host::Describe<S>& series) {
       .template Property<scene::MFFloat>("Height", &S::Height,
                                          {"The values, one an X cell; a live list", "scene units"})
       .template Property<std::string>("LegendText", &S::LegendText, &S::LegendText,
-                                      {"Text of the legend entry", "", "", "\"\""})
+                                      {"Text of the legend entry"})
       .template Property<std::shared_ptr<SeriesPopupInfo>>(
           "PopupProps", &S::PopupProps, {"The texts that pop up over the values"});
 }
 
 template <class S>
 void DescribeShowInLegend(host::Describe<S>& series) {
-  series.template Property<bool>(
-      "ShowInLegend", &S::ShowInLegend, &S::ShowInLegend,
-      {"Whether the series has a legend entry and a toggle", "", "", "true"});
+  series.template Property<bool>("ShowInLegend", &S::ShowInLegend, &S::ShowInLegend,
+                                 {"Whether the series has a legend entry and a toggle"});
 }
 
 }  // namespace orvane

@@ -1,6 +1,5 @@
 #include "orvane/graphs/grid/GridGraph.h"
 
-#include "orvane/graphs/GridPlacement.h"
 #include "orvane/scene/frmMain.h"
 
 namespace orvane {
@@ -20,10 +19,10 @@ void GridGraph::AssembleGrid(const Axis& xAxis, const Axis& zAxis, const ISceneR
 }
 
 void GridGraph::Arrange() {
-  PlaceTitle(*TitleProps(), *m_grid);
-  PlaceLegend(*m_legend->Root(), *m_grid);
+  PlaceTitle(*TitleProps(), *m_grid, m_placement);
+  PlaceLegend(*m_legend->Root(), *m_grid, m_placement);
   AlignXAxis();
-  PlaceYAxis(*m_yAxis, *m_grid);
+  PlaceYAxis(*m_yAxis, *m_grid, m_placement.yAxis);
   AlignZAxis();
   LegendWiring legend(*m_legend, Routes());
   Contents().Clear();

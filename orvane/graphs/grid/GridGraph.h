@@ -6,6 +6,7 @@
 #include "orvane/components/GridInfo.h"
 #include "orvane/components/LegendInfo.h"
 #include "orvane/graphs/Chart.h"
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/LegendWiring.h"
 
 #include <memory>
@@ -19,6 +20,9 @@ class ORVANE_API GridGraph : public Chart {
   std::shared_ptr<GridInfo> GridProps() const { return m_grid; }
   std::shared_ptr<LegendInfo> LegendProps() const { return m_legend; }
   std::shared_ptr<ContinuousAxis> YAxisProps() const { return m_yAxis; }
+
+  /// Where the parts stand from the next export on, for C++.
+  GridPlacement& Placement() { return m_placement; }
 
  protected:
   GridGraph();
@@ -43,6 +47,7 @@ class ORVANE_API GridGraph : public Chart {
   std::shared_ptr<LegendInfo> m_legend;
   std::shared_ptr<ContinuousAxis> m_yAxis;
   std::shared_ptr<scene::Group> m_contents;
+  GridPlacement m_placement;
 };
 
 }  // namespace orvane

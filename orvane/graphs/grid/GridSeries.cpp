@@ -11,13 +11,12 @@ namespace orvane {
 GridSeries::GridSeries(std::vector<Variant> variants)
     : m_variants(std::move(variants)),
       m_popups(std::make_shared<SeriesPopupInfo>()),
-      m_root(scene::Create<scene::Transform>()),
       m_toggle(scene::Create<scene::ContentToggle>()),
       m_appearance(scene::Create<scene::Appearance>()),
       m_material(scene::Create<scene::Material>()) {
   m_toggle->contentsExist.Value(true);
   m_appearance->material.Value(m_material);
-  m_root->children.Append(m_toggle);
+  Root()->children.Append(m_toggle);
   m_toggle->contents.Append(m_variants.front().node);
   // Hiding the series hides its popups too.
   m_toggle->contents.Append(m_popups->RootNode());

@@ -16,28 +16,12 @@
 
 namespace orvane {
 
-/// What a chart does with a series at export.
-class ORVANE_API IInternalSeriesInfo {
- public:
-  virtual ~IInternalSeriesInfo() = default;
-
-  virtual std::shared_ptr<scene::ContentToggle> ContentToggle() const = 0;
-  /// Distance between neighbouring values along X in scene units, > 0.
-  virtual float Spacing() const = 0;
-  virtual void Spacing(float spacing) = 0;
-  /// Number of values along X, >= 1.
-  virtual std::int16_t Count() const = 0;
-  virtual void Count(std::int16_t count) = 0;
-  virtual std::shared_ptr<scene::Appearance> Appearance() const = 0;
-};
-
 /// One row of values: a shape and its popups behind a content toggle, under a root that the chart
 /// places. The shape may come in several variants, one of which is shown; every let writes them
 /// all, so that changing the variant keeps every size.
 class ORVANE_API GridSeries : public host::Object,
                               public ISeriesInfo,
-                              public ISceneRoot,
-                              public IInternalSeriesInfo {
+                              public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "GridSeries";
 
@@ -56,16 +40,14 @@ class ORVANE_API GridSeries : public host::Object,
   bool ShowInLegend() const { return m_showInLegend; }
   void ShowInLegend(bool show) { m_showInLegend = show; }
 
-  std::shared_ptr<scene::ContentToggle> ContentToggle() const override { return m_toggle; }
-  float Spacing() const override { return m_variants.front().spacing->Value(); }
-  void Spacing(float spacing) override;
-  std::int16_t Count() const override;
-  void Count(std::int16_t count) override;
-  std::shared_ptr<scene::Appearance> Appearance() const override { return m_appearance; }
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; the chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  std::shared_ptr<scene::ContentToggle> ContentToggle() const { return m_toggle; }
+  /// Distance between neighbouring values along X in scene units, > 0.
+  float Spacing() const { return m_variants.front().spacing->Value(); }
+  void Spacing(float spacing);
+  /// Number of values along X, >= 1.
+  std::int16_t Count() const;
+  void Count(std::int16_t count);
+  std::shared_ptr<scene::Appearance> Appearance() const { return m_appearance; }
 
  protected:
   /// The fields that every series PROTO has.
@@ -92,7 +74,6 @@ class ORVANE_API GridSeries : public host::Object,
   std::vector<Variant> m_variants;
   std::size_t m_shown = 0;
   std::shared_ptr<SeriesPopupInfo> m_popups;
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::ContentToggle> m_toggle;
   std::shared_ptr<scene::Appearance> m_appearance;
   std::shared_ptr<scene::Material> m_material;

@@ -10,11 +10,9 @@ const host::TypeInfo& RibbonSeriesInfo::Type() const {
       host::Describe<Series>("One series of a ribbon chart.")
           .With(DescribeDepth<Series>)
           .Property<float>("Thickness", &Series::Thickness, &Series::Thickness,
-                           {"Thickness of the band", "scene units", "> 0", "0.2"})
+                           {"Thickness of the band", "scene units", host::kPositive})
           .With(DescribeData<Series>)
-          .With([](auto& series) {
-            DescribeStyle<Series, RibbonStyle>(series, "OUTLINED_RIBBON", "0.05");
-          });
+          .With(DescribeStyle<Series, RibbonStyle>);
   return type;
 }
 

@@ -44,13 +44,11 @@ class StyledSeries : public GridSeries {
 
 /// Style, BevelRadius and ShowInLegend.
 template <class S, class StyleEnum>
-void DescribeStyle(host::Describe<S>& series, const char* initialStyle, const char* initialBevel) {
-  series
-      .template Property<StyleEnum>("Style", &S::Style, &S::Style,
-                                    {"Outlined or rounded shapes", "", "", initialStyle})
+void DescribeStyle(host::Describe<S>& series) {
+  series.template Property<StyleEnum>("Style", &S::Style, &S::Style, {"Outlined or rounded shapes"})
       .template Property<float>(
           "BevelRadius", &S::BevelRadius, &S::BevelRadius,
-          {"Rounding of the edges when rounded", "scene units", "> 0", initialBevel})
+          {"Rounding of the edges when rounded", "scene units", host::kPositive})
       .With(DescribeShowInLegend<S>);
 }
 

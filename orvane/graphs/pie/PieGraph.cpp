@@ -20,22 +20,23 @@ const host::TypeInfo& PieGraph::Type() const {
                                                      {"The sky"})
           .Property<std::shared_ptr<TextInfo>>("TitleProps", &Graph::TitleProps, {"The title"})
           .Property<std::shared_ptr<LegendInfo>>("LegendProps", &Graph::LegendProps, {"The legend"})
-          .Method("GetSlice", &Graph::GetSlice, {"Index"}, {"One slice", "", "1..SliceCount"})
+          .Method("GetSlice", &Graph::GetSlice, {{"Index", host::UpTo("SliceCount")}},
+                  {"One slice"})
           .Property<float>("radius", &Graph::radius, &Graph::radius,
-                           {"Radius of all slices", "scene units", "> 0", "3"})
+                           {"Radius of all slices", "scene units", host::kPositive})
           .Property<float>("InnerRadius", &Graph::InnerRadius, &Graph::InnerRadius,
-                           {"Inner radius of all ring slices", "scene units", "> 0", "1.5"})
+                           {"Inner radius of all ring slices", "scene units", host::kPositive})
           .Property<float>("BevelRadius", &Graph::BevelRadius, &Graph::BevelRadius,
-                           {"Rounding of the edges when rounded", "scene units", "> 0", "0.2"})
-          .Property<SliceTextVisibility>(
-              "SliceTextDisplayStyle", &Graph::SliceTextDisplayStyle, &Graph::SliceTextDisplayStyle,
-              {"When the texts of the slices are shown", "", "", "SHOW_ON_TOUCH"})
+                           {"Rounding of the edges when rounded", "scene units", host::kPositive})
+          .Property<SliceTextVisibility>("SliceTextDisplayStyle", &Graph::SliceTextDisplayStyle,
+                                         &Graph::SliceTextDisplayStyle,
+                                         {"When the texts of the slices are shown"})
           .Property<std::int16_t>("SliceCount", &Graph::SliceCount, &Graph::SliceCount,
-                                  {"Number of slices", "", ">= 0", "0"})
+                                  {"Number of slices", "", host::kNotNegative})
           .Property<bool>("UseSpinAxis", &Graph::UseSpinAxis, &Graph::UseSpinAxis,
-                          {"Whether an axis turns the pie", "", "", "false"})
+                          {"Whether an axis turns the pie"})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether a cone above the pie loads another world", "", "", "false"})
+                          {"Whether a cone above the pie loads another world"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The cone above the pie"})
           .With(DescribeViews<Graph>)
@@ -93,9 +94,9 @@ void PieGraph::SliceCount(std::int16_t count) {
 
 void PieGraph::UseDrillUp(bool use) {
   if (use == m_usesDrillUp) return;
-  m_usesDrillUp = use;
   m_drillUpHolder->children.Clear();
   if (use) m_drillUpHolder->children.Append(m_drillUp->RootNode());
+  m_usesDrillUp = use;
 }
 
 void PieGraph::Arrange() {
@@ -113,12 +114,16 @@ float PieGraph::MaxHeight() const {
   return height;
 }
 
-void PieGraph::AlignTitle() { TitleProps()->Root()->translation.Y(Single(2.0 * MaxHeight())); }
+void PieGraph::AlignTitle() {
+  auto& translation = TitleProps()->Root()->translation;
+  translation.Y(Single(m_placement.titleY.Of(MaxHeight())));
+  if (m_placement.titleZ) translation.Z(Single(*m_placement.titleZ));
+}
 
 void PieGraph::AlignLegend() {
   auto& translation = m_legend->Root()->translation;
-  translation.X(Single(m_radius * 1.4));
-  translation.Y(Single(MaxHeight() * 0.2));
+  translation.X(Single(m_placement.legendX.Of(m_radius)));
+  translation.Y(Single(m_placement.legendY.Of(MaxHeight())));
 }
 
 void PieGraph::BuildSlices() {

@@ -3,6 +3,7 @@
 
 #include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/LegendInfo.h"
+#include "orvane/components/Placement.h"
 #include "orvane/graphs/Chart.h"
 #include "orvane/graphs/LegendWiring.h"
 #include "orvane/graphs/SeriesCollection.h"
@@ -11,10 +12,20 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace orvane {
 
 enum class SliceTextVisibility : std::int32_t { SHOW_ON_TOUCH = 0, SHOW_ALWAYS = 1 };
+
+/// What a pie places its title and legend by.
+struct PiePlacement {
+  /// The title's height, of the tallest slice's. Its z stays as it is where left out.
+  Length titleY{2};
+  std::optional<double> titleZ;
+  Length legendX{1.4};  ///< Of the pie's radius.
+  Length legendY{0.2};  ///< Of the tallest slice's height.
+};
 
 /// Slices round the origin on the XZ plane, the first one from +X on, each following in the
 /// negative sense of rotation about +Y. A viewer can pull each out of the pie.
@@ -58,6 +69,9 @@ class ORVANE_API PieGraph final : public Chart {
   void UseDrillUp(bool use);
   std::shared_ptr<DrillUpInfo> DrillUpProps() const { return m_drillUp; }
 
+  /// Where title and legend stand from the next export on, for C++.
+  PiePlacement& Placement() { return m_placement; }
+
  protected:
   void Arrange() override;
 
@@ -81,6 +95,7 @@ class ORVANE_API PieGraph final : public Chart {
   std::shared_ptr<DrillUpInfo> m_drillUp;
   std::shared_ptr<scene::Transform> m_pie;
   std::shared_ptr<scene::Transform> m_drillUpHolder;
+  PiePlacement m_placement;
   float m_radius = 3;
   float m_innerRadius = 1.5F;
   float m_bevelRadius = 0.2F;

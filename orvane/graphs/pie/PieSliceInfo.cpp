@@ -34,30 +34,28 @@ const host::TypeInfo& PieSliceInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Slice>("One slice of a pie.")
           .Property<float>("Percentage", &Slice::Percentage, &Slice::Percentage,
-                           {"Share of the full turn", "", "0..1", "0.2"})
+                           {"Share of the full turn", "", host::kUnit})
           .Property<float>("Height", &Slice::Height, &Slice::Height,
-                           {"Extent along Y", "scene units", "> 0", "1"})
+                           {"Extent along Y", "scene units", host::kPositive})
           .Property<std::shared_ptr<scene::Material>>("Material", &Slice::Material,
                                                       {"Colours and transparency of the slice"})
           .Property<std::string>("LegendText", &Slice::LegendText, &Slice::LegendText,
-                                 {"Text of the legend entry", "", "", "\"\""})
-          .Property<SliceStyle>("Style", &Slice::Style, &Slice::Style,
-                                {"Shape of the slice", "", "", "OUTLINED_SLICE"})
+                                 {"Text of the legend entry"})
+          .Property<SliceStyle>("Style", &Slice::Style, &Slice::Style, {"Shape of the slice"})
           .Property<std::shared_ptr<TextInfo>>("SliceTextProps", &Slice::SliceTextProps,
                                                {"The text above the rim"})
           .Property<bool>("UseDrillDown", &Slice::UseDrillDown, &Slice::UseDrillDown,
-                          {"Whether a cone on the rim loads another world", "", "", "false"})
+                          {"Whether a cone on the rim loads another world"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillDownProps", &Slice::DrillDownProps,
                                                   {"The cone on the rim"})
           .Property<bool>("ShowInLegend", &Slice::ShowInLegend, &Slice::ShowInLegend,
-                          {"Whether the slice has a legend entry and a toggle", "", "", "true"});
+                          {"Whether the slice has a legend entry and a toggle"});
   return type;
 }
 
 PieSliceInfo::PieSliceInfo()
     : m_text(std::make_shared<TextInfo>()),
       m_drillDown(std::make_shared<DrillUpInfo>()),
-      m_root(scene::Create<scene::Transform>()),
       m_inner(scene::Create<scene::Transform>()),
       m_drillDownTransform(scene::Create<scene::Transform>()),
       m_sensor(scene::Create<scene::PlaneSensor>()),
@@ -77,14 +75,14 @@ PieSliceInfo::PieSliceInfo()
   m_rounded->appearance.Value(m_appearance);
   m_ring->appearance.Value(m_appearance);
 
-  m_root->children.Append(m_inner);
+  Root()->children.Append(m_inner);
   m_inner->children.Append(m_sensor);
   m_inner->children.Append(m_toggle);
   m_text->IsBillboarded(true);
   m_textToggle->contents.Append(m_text->RootNode());
   FillToggle(m_outlined);
   // Lays the cone on its side, its tip towards the rim.
-  m_drillDown->Root()->rotation.SetValue(0, 0, 1, 1.5708F);
+  m_drillDown->Root()->rotation.SetValue(0, 0, 1, kQuarterTurn);
 
   Percentage(0.2F);
   // Puts text and cone where they belong on a slice of the shapes' own height.
@@ -105,7 +103,7 @@ void PieSliceInfo::Percentage(float share) {
 
 void PieSliceInfo::Height(float height) {
   host::Require(height > 0, "Invalid slice height, must be greater than 0");
-  const float textHeight = Single(height * 1.1);
+  const float textHeight = Single(m_textPlacement.height.Of(height));
   m_outlined->height.Value(height);
   m_rounded->height.Value(height);
   m_ring->height.Value(height);
@@ -115,6 +113,7 @@ void PieSliceInfo::Height(float height) {
 
 void PieSliceInfo::radius(float value) {
   host::Require(value > 0, "Invalid radius, must be greater than 0");
+  const float textDistance = Single(m_textPlacement.distance.Of(value));
   const float coneHeight = Single(value * 0.1);
   const float coneDistance = Single(value * 1.05 + coneHeight / 2.0);
   // The smaller one first: it alone can come to 0 and be rejected.
@@ -123,8 +122,16 @@ void PieSliceInfo::radius(float value) {
   m_outlined->radius.Value(value);
   m_rounded->radius.Value(value);
   m_ring->radius.Value(value);
-  MoveAlongX(*m_text->Root(), value);
+  MoveAlongX(*m_text->Root(), textDistance);
   MoveAlongX(*m_drillDownTransform, coneDistance);
+}
+
+void PieSliceInfo::TextPlacement(const SliceTextPlacement& placement) {
+  const float distance = Single(placement.distance.Of(radius()));
+  const float height = Single(placement.height.Of(Height()));
+  m_textPlacement = placement;
+  MoveAlongX(*m_text->Root(), distance);
+  MoveAlongY(*m_text->Root(), height);
 }
 
 void PieSliceInfo::InnerRadius(float radius) {
@@ -147,9 +154,9 @@ void PieSliceInfo::Style(SliceStyle style) {
 
 void PieSliceInfo::UseDrillDown(bool use) {
   if (use == m_usesDrillDown) return;
-  m_usesDrillDown = use;
   m_drillDownTransform->children.Clear();
   if (use) m_drillDownTransform->children.Append(m_drillDown->RootNode());
+  m_usesDrillDown = use;
 }
 
 std::shared_ptr<scene::Node> PieSliceInfo::ShapeOf(SliceStyle style) const {

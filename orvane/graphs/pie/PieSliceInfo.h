@@ -5,6 +5,7 @@
 #include "orvane/automation/Object.h"
 #include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/ISceneRoot.h"
+#include "orvane/components/Placement.h"
 #include "orvane/components/TextInfo.h"
 #include "orvane/graphs/SeriesCollection.h"
 #include "orvane/scene/GraphProtos.h"
@@ -20,31 +21,10 @@ namespace orvane {
 
 enum class SliceStyle : std::int32_t { OUTLINED_SLICE = 0, ROUNDED_SLICE = 1, RING_SLICE = 2 };
 
-/// What a pie does with a slice. Lengths are in scene units.
-class ORVANE_API IInternalSliceInfo {
- public:
-  virtual ~IInternalSliceInfo() = default;
-
-  /// Of the sector, in radians.
-  virtual float Angle() const = 0;
-  /// Rounding of the edges of rounded and ring slices, > 0.
-  virtual float BevelRadius() const = 0;
-  virtual void BevelRadius(float radius) = 0;
-  /// Drags the slice along its local x.
-  virtual std::shared_ptr<scene::PlaneSensor> PlaneSensorNode() const = 0;
-  /// Shows the slice with all that belongs to it.
-  virtual std::shared_ptr<scene::ContentToggle> ContentToggleNode() const = 0;
-  /// Shows the text of the slice.
-  virtual std::shared_ptr<scene::ContentToggle> SliceTextToggleNode() const = 0;
-  /// What dragging moves.
-  virtual std::shared_ptr<scene::Transform> InnerTransformNode() const = 0;
-  /// Outer radius, > 0.
-  virtual float radius() const = 0;
-  virtual void radius(float value) = 0;
-  /// Inner radius of ring slices, >= 0; not held against the outer one.
-  virtual float InnerRadius() const = 0;
-  virtual void InnerRadius(float radius) = 0;
-  virtual std::shared_ptr<scene::Appearance> Appearance() const = 0;
+/// Where the text of a slice stands.
+struct SliceTextPlacement {
+  Length distance{1};  ///< From the slice's axis, of its radius.
+  Length height{1.1};  ///< Of the baseline above the floor, of the slice's height.
 };
 
 /// A sector of the full turn on the XZ plane, with a text above its rim and on demand a cone that
@@ -54,8 +34,7 @@ class ORVANE_API IInternalSliceInfo {
 /// In the frame of its inner transform the sector runs from local +X to -Angle about +Y.
 class ORVANE_API PieSliceInfo final : public host::Object,
                                       public ISeriesInfo,
-                                      public ISceneRoot,
-                                      public IInternalSliceInfo {
+                                      public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "PieSliceInfo";
   const host::TypeInfo& Type() const override;
@@ -86,24 +65,29 @@ class ORVANE_API PieSliceInfo final : public host::Object,
   bool ShowInLegend() const { return m_showInLegend; }
   void ShowInLegend(bool show) { m_showInLegend = show; }
 
-  float Angle() const override { return m_rounded->angle.Value(); }
-  float BevelRadius() const override { return m_rounded->bevelRadius.Value(); }
-  void BevelRadius(float radius) override;
-  std::shared_ptr<scene::PlaneSensor> PlaneSensorNode() const override { return m_sensor; }
-  std::shared_ptr<scene::ContentToggle> ContentToggleNode() const override { return m_toggle; }
-  std::shared_ptr<scene::ContentToggle> SliceTextToggleNode() const override {
-    return m_textToggle;
-  }
-  std::shared_ptr<scene::Transform> InnerTransformNode() const override { return m_inner; }
-  float radius() const override { return m_rounded->radius.Value(); }
-  void radius(float value) override;
-  float InnerRadius() const override { return m_ring->innerRadius.Value(); }
-  void InnerRadius(float radius) override;
-  std::shared_ptr<scene::Appearance> Appearance() const override { return m_appearance; }
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; the pie turns it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  /// Of the sector, in radians.
+  float Angle() const { return m_rounded->angle.Value(); }
+  /// Rounding of the edges of rounded and ring slices in scene units, > 0.
+  float BevelRadius() const { return m_rounded->bevelRadius.Value(); }
+  void BevelRadius(float radius);
+  /// Drags the slice along its local x.
+  std::shared_ptr<scene::PlaneSensor> PlaneSensorNode() const { return m_sensor; }
+  /// Shows the slice with all that belongs to it.
+  std::shared_ptr<scene::ContentToggle> ContentToggleNode() const { return m_toggle; }
+  /// Shows the text of the slice.
+  std::shared_ptr<scene::ContentToggle> SliceTextToggleNode() const { return m_textToggle; }
+  /// What dragging moves.
+  std::shared_ptr<scene::Transform> InnerTransformNode() const { return m_inner; }
+  /// Outer radius in scene units, > 0.
+  float radius() const { return m_rounded->radius.Value(); }
+  void radius(float value);
+  /// Inner radius of ring slices in scene units, >= 0; not held against the outer one.
+  float InnerRadius() const { return m_ring->innerRadius.Value(); }
+  void InnerRadius(float radius);
+  /// Where the text stands, for C++.
+  const SliceTextPlacement& TextPlacement() const { return m_textPlacement; }
+  void TextPlacement(const SliceTextPlacement& placement);
+  std::shared_ptr<scene::Appearance> Appearance() const { return m_appearance; }
 
  private:
   /// The shape of `style`; nullptr outside the enumeration.
@@ -111,8 +95,8 @@ class ORVANE_API PieSliceInfo final : public host::Object,
   void FillToggle(const std::shared_ptr<scene::Node>& shape);
 
   std::shared_ptr<TextInfo> m_text;
+  SliceTextPlacement m_textPlacement;
   std::shared_ptr<DrillUpInfo> m_drillDown;
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Transform> m_inner;
   std::shared_ptr<scene::Transform> m_drillDownTransform;
   std::shared_ptr<scene::PlaneSensor> m_sensor;

@@ -11,21 +11,19 @@ const host::TypeInfo& PieSpinAxisInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Axis>("The axis by which a viewer turns a pie.")
           .Property<bool>("UseSpinAxis", &Axis::UseSpinAxis, &Axis::UseSpinAxis,
-                          {"Whether there is an axis", "", "", "false"})
+                          {"Whether there is an axis"})
           .Property<float>("radius", &Axis::radius, &Axis::radius,
-                           {"Radius of the axis", "scene units", "> 0", "0.1"})
+                           {"Radius of the axis", "scene units", host::kPositive})
           .Property<float>("Height", &Axis::Height, &Axis::Height,
-                           {"Height of the axis", "scene units", "> 0", "2"})
-          .Property<std::int32_t>("Color", &Axis::Color, &Axis::Color,
-                                  {"Colour of the axis", "host RGB", "0..16777215", "16777215"})
+                           {"Height of the axis", "scene units", host::kPositive})
+          .Color("Color", &Axis::Color, &Axis::Color, {"Colour of the axis"})
           .Property<std::shared_ptr<scene::Node>>("CylinderSensorNode", &Axis::CylinderSensorNode,
                                                   {"The sensor that reports the turn"});
   return type;
 }
 
 PieSpinAxisInfo::PieSpinAxisInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_shape(scene::Create<scene::Shape>()),
+    : m_shape(scene::Create<scene::Shape>()),
       m_cylinder(scene::Create<scene::Cylinder>()),
       m_sensor(scene::Create<scene::CylinderSensor>()),
       m_appearance(scene::Create<scene::Appearance>()),
@@ -39,11 +37,9 @@ PieSpinAxisInfo::PieSpinAxisInfo()
 
 void PieSpinAxisInfo::UseSpinAxis(bool use) {
   if (use == m_isUsed) return;
+  using List = scene::MFNode::List;
+  Root()->children.Items(use ? List{m_sensor, m_shape} : List());
   m_isUsed = use;
-  m_root->children.Clear();
-  if (!use) return;
-  m_root->children.Append(m_sensor);
-  m_root->children.Append(m_shape);
 }
 
 void PieSpinAxisInfo::radius(float value) {

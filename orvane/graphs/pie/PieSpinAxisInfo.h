@@ -14,7 +14,7 @@ namespace orvane {
 
 /// A thin upright cylinder, centred on its root's origin, with the sensor that it is turned by.
 /// Both are in the scene only while UseSpinAxis is true.
-class ORVANE_API PieSpinAxisInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API PieSpinAxisInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "PieSpinAxisInfo";
   const host::TypeInfo& Type() const override;
@@ -36,12 +36,7 @@ class ORVANE_API PieSpinAxisInfo final : public host::Object, public ISceneRoot 
   /// The CylinderSensor, in the scene or not.
   std::shared_ptr<scene::Node> CylinderSensorNode() const { return m_sensor; }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; the pie places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Shape> m_shape;
   std::shared_ptr<scene::Cylinder> m_cylinder;
   std::shared_ptr<scene::CylinderSensor> m_sensor;

@@ -11,28 +11,37 @@ const host::TypeInfo& PointCollection::Type() const {
   using Points = PointCollection;
   static const host::TypeInfo type =
       host::Describe<Points>("A set of coloured spheres: one point frame of a scatter chart.")
-          .Method("AddPoint", &Points::AddPoint, {"x", "y", "z", "radius", "Color", "Transparency"},
-                  {"Adds a sphere; lengths are in scene units, Color is host RGB", "",
-                   "radius >= 0, Color 0..16777215, Transparency 0..1"})
-          .Method("RemovePoint", &Points::RemovePoint, {"Index"},
-                  {"Removes one point", "", "1..Count"})
+          .Method("AddPoint", &Points::AddPoint,
+                  {"x",
+                   "y",
+                   "z",
+                   {"radius", host::kNotNegative},
+                   host::Parameter::Color("Color"),
+                   {"Transparency", host::kUnit}},
+                  {"Adds a sphere; lengths are in scene units"})
+          .Method("RemovePoint", &Points::RemovePoint, {{"Index", host::UpTo("Count")}},
+                  {"Removes one point"})
           .Method("Get1Point", &Points::Get1Point,
-                  {"Index", "x", "y", "z", "radius", "Color", "Transparency"},
-                  {"What one point was added with", "", "1..Count"})
+                  {{"Index", host::UpTo("Count")},
+                   "x",
+                   "y",
+                   "z",
+                   "radius",
+                   host::Parameter::Color("Color"),
+                   "Transparency"},
+                  {"What one point was added with"})
           .Method("ClearPoints", &Points::ClearPoints, {}, {"Removes all points"})
-          .Property<std::int16_t>("Count", &Points::Count,
-                                  {"Number of points, up to 32767", "", "", "0"})
+          .Property<std::int16_t>("Count", &Points::Count, {"Number of points, up to 32767"})
           .Property<std::string>("Description", &Points::Description, &Points::Description,
-                                 {"The frame's name, a label of the slider", "", "", "\"\""})
+                                 {"The frame's name, a label of the slider"})
           .Property<std::shared_ptr<scene::Node>>("SphereCollectionNode",
                                                   &Points::SphereCollectionNode,
                                                   {"The node that holds the points"});
   return type;
 }
 
-PointCollection::PointCollection()
-    : m_root(scene::Create<scene::Group>()), m_spheres(scene::Create<scene::SphereCollection>()) {
-  m_root->children.Append(m_spheres);
+PointCollection::PointCollection() : m_spheres(scene::Create<scene::SphereCollection>()) {
+  Root()->children.Append(m_spheres);
 }
 
 void PointCollection::AddPoint(float x, float y, float z, float radius, std::int32_t color,
@@ -44,10 +53,18 @@ void PointCollection::AddPoint(float x, float y, float z, float radius, std::int
   const float finiteRadius = host::Single(radius);
   scene::SFColor components;
   components.Value(color);
-  m_spheres->locations.Append(x, y, z);  // The last step that may raise.
-  m_spheres->radii.Append(finiteRadius);
-  m_spheres->colors.Append(components.Red(), components.Green(), components.Blue());
-  m_spheres->transparencies.Append(transparency);
+  const auto count = m_spheres->locations.Count();
+  try {
+    m_spheres->locations.Append(x, y, z);
+    m_spheres->radii.Append(finiteRadius);
+    m_spheres->colors.Append(components.Red(), components.Green(), components.Blue());
+    m_spheres->transparencies.Append(transparency);
+  } catch (...) {
+    if (m_spheres->locations.Count() > count) m_spheres->locations.RemoveAt(count + 1);
+    if (m_spheres->radii.Count() > count) m_spheres->radii.RemoveAt(count + 1);
+    if (m_spheres->colors.Count() > count) m_spheres->colors.RemoveAt(count + 1);
+    throw;
+  }
 }
 
 void PointCollection::RemovePoint(std::int16_t index) {

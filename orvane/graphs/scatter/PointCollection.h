@@ -15,7 +15,7 @@ namespace orvane {
 /// The points live in the lists of one qm4_SphereCollection and nowhere else. Indexes count from 1;
 /// one outside 1..Count raises ListIndex.
 class ORVANE_API PointCollection final : public host::Object,
-                                         public ISceneRoot,
+                                         public RootedAt<scene::Group>,
                                          public ISeriesInfo {
  public:
   static constexpr const char* kClassName = "PointCollection";
@@ -42,10 +42,7 @@ class ORVANE_API PointCollection final : public host::Object,
   /// The centres of all points, for C++.
   const scene::MFVec3f::List& Locations() const { return m_spheres->locations.Items(); }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-
  private:
-  std::shared_ptr<scene::Group> m_root;
   std::shared_ptr<scene::SphereCollection> m_spheres;
   std::string m_description;
 };

@@ -3,7 +3,6 @@
 #include "orvane/automation/Arithmetic.h"
 #include "orvane/automation/AutomationError.h"
 #include "orvane/graphs/DescribeChart.h"
-#include "orvane/graphs/GridPlacement.h"
 #include "orvane/scene/frmMain.h"
 
 #include <algorithm>
@@ -45,23 +44,22 @@ const host::TypeInfo& ScatterGraph::Type() const {
                                                      {"The axis along Z"})
           .Property<std::shared_ptr<ScatterLegendInfo>>("LegendProps", &Graph::LegendProps,
                                                         {"The legend"})
-          .Method("Get1PointFrame", &Graph::Get1PointFrame, {"Index"},
-                  {"One point frame", "", "1..PointFrameCount"})
+          .Method("Get1PointFrame", &Graph::Get1PointFrame,
+                  {{"Index", host::UpTo("PointFrameCount")}}, {"One point frame"})
           .Property<std::int16_t>(
               "PointFrameCount", &Graph::PointFrameCount, &Graph::PointFrameCount,
-              {"Number of point frames; a let adds empty ones or removes trailing ones", "", ">= 1",
-               "0"})
+              {"Number of point frames; a let adds empty ones or removes trailing ones", "",
+               host::kAtLeastOne})
           .Property<double>("FrameTimeGap", &Graph::FrameTimeGap, &Graph::FrameTimeGap,
-                            {"Time from one frame to the next", "seconds", ">= 1, finite", "1"})
-          .Property<LoopStyle>(
-              "AnimationLoopStyle", &Graph::AnimationLoopStyle, &Graph::AnimationLoopStyle,
-              {"What an animation does after the last frame", "", "", "VRML_NO_LOOP"})
+                            {"Time from one frame to the next", "seconds", host::kAtLeastOne})
+          .Property<LoopStyle>("AnimationLoopStyle", &Graph::AnimationLoopStyle,
+                               &Graph::AnimationLoopStyle,
+                               {"What an animation does after the last frame"})
           .Property<AnimationStyle>(
               "PointAnimationStyle", &Graph::PointAnimationStyle, &Graph::PointAnimationStyle,
-              {"Whether points move from frame to frame, or a slider picks the frame", "", "",
-               "VRML_ANALOG"})
+              {"Whether points move from frame to frame, or a slider picks the frame"})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The drill-up cone"})
           .With(DescribeViews<Graph>)
@@ -113,11 +111,11 @@ void ScatterGraph::FrameTimeGap(double seconds) {
 
 void ScatterGraph::Arrange() {
   ClearAway();
-  PlaceTitle(*TitleProps(), *m_grid);
-  AlignXAxis();
-  PlaceYAxis(*m_yAxis, *m_grid);
-  AlignZAxis();
-  PlaceLegend(*m_legend->Root(), *m_grid);
+  PlaceTitle(*TitleProps(), *m_grid, m_placement);
+  PlaceXAxis(*m_xAxis, *m_grid, m_placement.xAxis);
+  PlaceYAxis(*m_yAxis, *m_grid, m_placement.yAxis);
+  PlaceZAxis(*m_zAxis, *m_grid, m_placement.zAxis);
+  PlaceLegend(*m_legend->Root(), *m_grid, m_placement);
   Assemble({m_legend.get()});
   if (m_usesDrillUp) {
     PlaceDrillUp(*m_drillUp, *m_grid);
@@ -141,16 +139,6 @@ void ScatterGraph::ClearAway() {
   if (PointFrameCount() == 0) return;
   const auto spheres = Get1PointFrame(1)->SphereCollectionNode();
   if (spheres->DefName() == kMovedPoints) spheres->SetDefName("");
-}
-
-void ScatterGraph::AlignXAxis() {
-  AxisPlacement placement = XAxisPlacement(*m_xAxis, *m_grid, LabelsAt::Lines);
-  placement.z = 1.05 * m_grid->Depth();
-  Place(*m_xAxis, placement, LabelingOrder::MIN_TO_MAX);
-}
-
-void ScatterGraph::AlignZAxis() {
-  Place(*m_zAxis, ZAxisPlacement(*m_zAxis, *m_grid, LabelsAt::Lines), LabelingOrder::MIN_TO_MAX);
 }
 
 void ScatterGraph::BuildFrameSwitch() {
@@ -177,14 +165,19 @@ void ScatterGraph::BuildFrameSlider() {
                                                   : description);
   }
   const float textLength = Single(static_cast<double>(labelHeight) * count);
-  m_slider->SliderLength(Single(textLength * 1.5));
+  m_slider->SliderLength(Single(textLength * m_placement.sliderPitch));
   m_slider->SliderRadius(0.2F);
   m_slider->TextAlignment(SliderTextAlignment::RIGHT_ALIGN_TEXT);
+  m_slider->LabelPlacement() = m_placement.sliderLabels;
   m_slider->AlignSlider();
 
-  // On the floor to the right of the grid, from the first frame on to the right.
+  // On the floor, from the first frame on to the right.
   auto& root = *m_slider->Root();
-  root.translation.X(Single(1.1 * m_grid->Width() + m_slider->SliderLength()));
+  const double scale = m_placement.sliderScale;
+  root.translation.X(
+      Single(m_placement.sliderX.Of(m_grid->Width()) + scale * m_slider->SliderLength()));
+  if (m_placement.sliderZ) root.translation.Z(Single(*m_placement.sliderZ));
+  ScaleBy(root, scale);
   root.rotation.SetFromAngles(-kQuarterTurn, kQuarterTurn, 0);
   Assemble({m_slider.get()});
   Routes().AddRoute(m_slider->SliderNode(), "value_changed", m_frameSwitch, "set_whichChoice");

@@ -5,6 +5,7 @@
 #include "orvane/components/DrillUpInfo.h"
 #include "orvane/components/GridInfo.h"
 #include "orvane/graphs/Chart.h"
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/SeriesCollection.h"
 #include "orvane/graphs/scatter/PointCollection.h"
 #include "orvane/graphs/scatter/ScatterLegendInfo.h"
@@ -13,6 +14,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace orvane {
@@ -29,6 +31,18 @@ enum class LoopStyle : std::int32_t {
   VRML_LOOP_BREAK = 1,       ///< It jumps to the first frame.
   VRML_BACK_AND_FORTH = 2,   ///< It goes back through the frames, and forth again.
   VRML_NO_LOOP = 3           ///< It stops; it begins when "TIME_KEEPER" is sent a start time.
+};
+
+/// What a scatter chart places its parts by, in the grid's frame.
+struct ScatterPlacement : GridPlacement {
+  ScatterPlacement() { xAxis.edge = {0.05}; }
+
+  /// The slider's first step, of the grid's width. Its z stays as it is where left out.
+  Length sliderX{1.1};
+  std::optional<double> sliderZ;
+  double sliderScale = 1;    ///< The slider's size, its labels included, as a factor.
+  double sliderPitch = 1.5;  ///< From one step of the slider to the next, in label heights.
+  SliderLabelPlacement sliderLabels;
 };
 
 /// The grid stands in the box (0, 0, 0) to (Width, Height, Depth), and points are given in its
@@ -67,8 +81,9 @@ class ORVANE_API ScatterGraph final : public Chart {
   bool UseDrillUp() const { return m_usesDrillUp; }
   void UseDrillUp(bool use) { m_usesDrillUp = use; }
 
-  /// The slider that the discrete style shows, for C++. Each export sets it anew, save for its
-  /// root's y and z.
+  /// Where the parts stand from the next export on, for C++.
+  ScatterPlacement& Placement() { return m_placement; }
+  /// The slider that the discrete style shows, for C++. Each export sets it anew.
   std::shared_ptr<SliderInfo> FrameSlider() const { return m_slider; }
   /// The clock of a smooth animation, for C++; it starts when its startTime is set.
   std::shared_ptr<scene::TimeSensor> TimeKeeper() const { return m_timer; }
@@ -77,8 +92,6 @@ class ORVANE_API ScatterGraph final : public Chart {
   void Arrange() override;
   /// Takes out what an earlier export has put into the scene.
   void ClearAway();
-  void AlignXAxis();
-  void AlignZAxis();
   void BuildFrameSwitch();
   void BuildFrameSlider();
   void BuildAnimation();
@@ -101,6 +114,7 @@ class ORVANE_API ScatterGraph final : public Chart {
   std::shared_ptr<scene::CoordinateInterpolator> m_locationInterpolator;
   std::shared_ptr<scene::TimeSensor> m_timer;
   std::shared_ptr<scene::Switch> m_frameSwitch;
+  ScatterPlacement m_placement;
   double m_frameTimeGap = 1;
   AnimationStyle m_animationStyle = AnimationStyle::VRML_ANALOG;
   LoopStyle m_loopStyle = LoopStyle::VRML_NO_LOOP;

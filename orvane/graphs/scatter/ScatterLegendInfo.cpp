@@ -9,9 +9,9 @@ const host::TypeInfo& ScatterLegendInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<ScatterLegendInfo>("The key of a scatter chart: a colour and a text an entry.")
           .With(DescribeLegend<ScatterLegendInfo>)
-          .Method("AddLegendEntry", &ScatterLegendInfo::AddLegendEntry, {"newColor", "newText"},
-                  {"Adds an entry below those there are; newColor is host RGB", "",
-                   "newColor 0..16777215"})
+          .Method("AddLegendEntry", &ScatterLegendInfo::AddLegendEntry,
+                  {host::Parameter::Color("newColor"), "newText"},
+                  {"Adds an entry below those there are"})
           .Method("ClearLegend", &ScatterLegendInfo::ClearLegend, {}, {"Removes all entries"});
   return type;
 }

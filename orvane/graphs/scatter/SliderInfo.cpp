@@ -17,24 +17,21 @@ const host::TypeInfo& SliderInfo::Type() const {
           .Property<scene::MFString>("Labels", &Info::Labels,
                                      {"The labels, from the top down; a live list"})
           .Property<float>("LabelHeight", &Info::LabelHeight, &Info::LabelHeight,
-                           {"Height of a label", "scene units", "> 0", "1"})
-          .Property<std::int32_t>("LabelColor", &Info::LabelColor, &Info::LabelColor,
-                                  {"Colour of the labels", "host RGB", "0..16777215", "16777215"})
+                           {"Height of a label", "scene units", host::kPositive})
+          .Color("LabelColor", &Info::LabelColor, &Info::LabelColor, {"Colour of the labels"})
           .Property<float>("SliderLength", &Info::SliderLength, &Info::SliderLength,
-                           {"Length of the bar", "scene units", "> 0", "4"})
+                           {"Length of the bar", "scene units", host::kPositive})
           .Property<std::int16_t>("SliderMin", &Info::SliderMin, &Info::SliderMin,
-                                  {"Value at one end", "", "", "0"})
+                                  {"Value at one end"})
           .Property<std::int16_t>("SliderMax", &Info::SliderMax, &Info::SliderMax,
-                                  {"Value at the other end", "", "", "10"})
+                                  {"Value at the other end"})
           .Property<float>("SliderRadius", &Info::SliderRadius, &Info::SliderRadius,
-                           {"Radius of the knob", "scene units", "> 0", "0.2"})
+                           {"Radius of the knob", "scene units", host::kPositive})
           .Property<SliderTextAlignment>(
               "TextAlignment", &Info::TextAlignment, &Info::TextAlignment,
-              {"Alignment of the labels, on the side of the bar that they extend to", "", "",
-               "LEFT_ALIGN_TEXT"})
+              {"Alignment of the labels, on the side of the bar that they extend to"})
           .Property<SliderAlignment>("SliderOrientation", &Info::SliderOrientation,
-                                     &Info::SliderOrientation,
-                                     {"The end at which SliderMin is", "", "", "ZERO_AT_BOTTOM"})
+                                     &Info::SliderOrientation, {"The end at which SliderMin is"})
           .Method("AlignSlider", &Info::AlignSlider, {},
                   {"Lays labels and slider out by the other properties"})
           .Property<std::shared_ptr<scene::Node>>("SliderNode", &Info::SliderNode,
@@ -43,8 +40,7 @@ const host::TypeInfo& SliderInfo::Type() const {
 }
 
 SliderInfo::SliderInfo()
-    : m_root(scene::Create<scene::Transform>()),
-      m_sliderTransform(scene::Create<scene::Transform>()),
+    : m_sliderTransform(scene::Create<scene::Transform>()),
       m_labelTransform(scene::Create<scene::Transform>()),
       m_slider(scene::Create<scene::Slider>()) {
   m_labels.Font(VRMLFontFamily::VRML_SANS);
@@ -52,8 +48,8 @@ SliderInfo::SliderInfo()
   m_labelTransform->children.Append(m_labels.Node());
   m_slider->SetDefName("FRAME_SLIDER");
   m_sliderTransform->children.Append(m_slider);
-  m_root->children.Append(m_sliderTransform);
-  m_root->children.Append(m_labelTransform);
+  Root()->children.Append(m_sliderTransform);
+  Root()->children.Append(m_labelTransform);
 }
 
 void SliderInfo::LabelHeight(float height) {
@@ -83,10 +79,12 @@ void SliderInfo::AlignSlider() {
     m_labels.Spacing(Single(Quotient(gap, labelHeight)));
   }
 
-  constexpr double kClearance = 1.2;
   const bool isRight = m_textAlignment == SliderTextAlignment::RIGHT_ALIGN_TEXT;
   m_labels.Alignment(isRight ? LabelAlignment::RIGHT_ALIGN : LabelAlignment::LEFT_ALIGN);
-  m_labelTransform->translation.X(Single(SliderRadius() * (isRight ? -kClearance : kClearance)));
+  const double distance = m_labelPlacement.distance.Of(SliderRadius());
+  m_labelTransform->translation.X(Single(isRight ? -distance : distance));
+  m_labelTransform->translation.Y(Single(m_labelPlacement.lift));
+  ScaleBy(*m_labelTransform, m_labelPlacement.scale);
 
   constexpr float kHalfTurn = 3.14159F;
   if (m_orientation == SliderAlignment::ZERO_AT_TOP) {

@@ -3,6 +3,7 @@
 
 #include "orvane/automation/Object.h"
 #include "orvane/components/ISceneRoot.h"
+#include "orvane/components/Placement.h"
 #include "orvane/components/TextShape.h"
 #include "orvane/scene/UiProtos.h"
 
@@ -14,9 +15,16 @@ namespace orvane {
 enum class SliderTextAlignment : std::int32_t { LEFT_ALIGN_TEXT = 0, RIGHT_ALIGN_TEXT = 1 };
 enum class SliderAlignment : std::int32_t { ZERO_AT_BOTTOM = 0, ZERO_AT_TOP = 1 };
 
+/// Where the labels of a slider stand beside its bar.
+struct SliderLabelPlacement {
+  Length distance{1.2};  ///< From the middle of the bar, of the knob's radius.
+  double lift = 0;       ///< Up along the bar, in scene units.
+  double scale = 1;      ///< Their size, and the way from one to the next, as a factor.
+};
+
 /// Stands on its root's origin and rises along y; labels run down from its upper end, one a step.
 /// Lets change the scene at once, except for what AlignSlider lays out.
-class ORVANE_API SliderInfo final : public host::Object, public ISceneRoot {
+class ORVANE_API SliderInfo final : public host::Object, public RootedAt<scene::Transform> {
  public:
   static constexpr const char* kClassName = "SliderInfo";
   const host::TypeInfo& Type() const override;
@@ -51,6 +59,9 @@ class ORVANE_API SliderInfo final : public host::Object, public ISceneRoot {
   SliderAlignment SliderOrientation() const { return m_orientation; }
   void SliderOrientation(SliderAlignment orientation) { m_orientation = orientation; }
 
+  /// Where AlignSlider puts the labels, for C++.
+  SliderLabelPlacement& LabelPlacement() { return m_labelPlacement; }
+
   /// Spreads the labels over the length of the slider and applies TextAlignment and
   /// SliderOrientation. Fewer than two labels keep their spacing; labels higher than the slider is
   /// long raise OutOfRange.
@@ -58,16 +69,12 @@ class ORVANE_API SliderInfo final : public host::Object, public ISceneRoot {
 
   std::shared_ptr<scene::Node> SliderNode() const { return m_slider; }
 
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; its chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
-
  private:
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::Transform> m_sliderTransform;
   std::shared_ptr<scene::Transform> m_labelTransform;
   std::shared_ptr<scene::Slider> m_slider;
   TextShape m_labels{"BEGIN"};
+  SliderLabelPlacement m_labelPlacement;
   SliderTextAlignment m_textAlignment = SliderTextAlignment::LEFT_ALIGN_TEXT;
   SliderAlignment m_orientation = SliderAlignment::ZERO_AT_BOTTOM;
 };

@@ -1,5 +1,6 @@
 #include "orvane/graphs/surface/DensityGraph.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/graphs/GridPlacement.h"
 #include "orvane/graphs/grid/DescribeGridGraph.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
@@ -12,10 +13,11 @@ const host::TypeInfo& DensityGraph::Type() const {
       host::Describe<Graph>("Where points lie thickly on the floor of a three-axis grid.")
           .With(DescribeComponents<Graph>)
           .With(DescribeSurfaces<Graph>)
-          .Property<float>("Sigma", &Graph::Sigma, &Graph::Sigma,
-                           {"Width of the kernel around each point", "scene units", "> 0", "0.8"})
+          .Property<float>(
+              "Sigma", &Graph::Sigma, &Graph::Sigma,
+              {"Width of the kernel around each point", "scene units", host::kPositive})
           .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene", "", "", "false"})
+                          {"Whether the drill-up cone is in the scene"})
           .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
                                                   {"The drill-up cone"})
           .With(DescribeViews<Graph>)
@@ -34,22 +36,19 @@ void DensityGraph::Sigma(float sigma) {
   m_sigma = sigma;
 }
 
-void DensityGraph::AlignXAxis() {
-  Place(*m_xAxis, XAxisPlacement(*m_xAxis, Grid(), LabelsAt::Lines), LabelingOrder::MIN_TO_MAX);
-}
+void DensityGraph::AlignXAxis() { PlaceXAxis(*m_xAxis, Grid(), Placement().xAxis); }
 
-void DensityGraph::AlignZAxis() {
-  Place(*m_zAxis, ZAxisPlacement(*m_zAxis, Grid(), LabelsAt::Lines), LabelingOrder::MIN_TO_MAX);
-}
+void DensityGraph::AlignZAxis() { PlaceZAxis(*m_zAxis, Grid(), Placement().zAxis); }
 
 void DensityGraph::BuildSeries(LegendWiring& legend) {
-  constexpr float kLift = 0.02F;  // Clear of the floor.
-  m_surfaces.LayOut(Contents(), legend, [this](DensitySurfaceInfo& surface) {
+  double lift = m_lift.first;
+  m_surfaces.LayOut(Contents(), legend, [&](DensitySurfaceInfo& surface) {
     surface.CoverCells(Grid().XAxisCellCount(), CellWidth(Grid()), Grid().ZAxisCellCount(),
                        CellDepth(Grid()));
     surface.Sigma(m_sigma);
     surface.GenerateParzenMap(Grid().Height());
-    surface.Root()->translation.Y(kLift);
+    surface.Root()->translation.Y(host::Single(lift));
+    lift += m_lift.step;
   });
 }
 

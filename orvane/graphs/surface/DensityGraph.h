@@ -11,6 +11,13 @@
 
 namespace orvane {
 
+/// How far above the floor surfaces are held, in scene units, so that none shines through it or
+/// through another: the first one, and each further one above the one before.
+struct SurfaceLift {
+  double first = 0.02;
+  double step = 0;
+};
+
 /// Where points lie thickly on the floor of a grid: a surface for each cloud of points, as high as
 /// the grid where they lie most thickly. All three axes have values.
 class ORVANE_API DensityGraph final : public GridGraph {
@@ -41,6 +48,9 @@ class ORVANE_API DensityGraph final : public GridGraph {
   void UseDrillUp(bool use) { m_usesDrillUp = use; }
   std::shared_ptr<DrillUpInfo> DrillUpProps() const { return m_drillUp; }
 
+  /// How high surfaces are held at export, for C++.
+  SurfaceLift& Lift() { return m_lift; }
+
  protected:
   void AlignXAxis() override;
   void AlignZAxis() override;
@@ -53,6 +63,7 @@ class ORVANE_API DensityGraph final : public GridGraph {
   std::shared_ptr<DrillUpInfo> m_drillUp = std::make_shared<DrillUpInfo>();
   bool m_usesDrillUp = false;
   float m_sigma = 0.8F;
+  SurfaceLift m_lift;
   SurfaceList<DensitySurfaceInfo> m_surfaces{"density surface"};
 };
 

@@ -8,24 +8,9 @@
 
 namespace orvane {
 
-/// What a chart does with a density surface at export.
-class ORVANE_API IDensitySurfaceInfo {
- public:
-  virtual ~IDensitySurfaceInfo() = default;
-
-  /// Width of the kernel around each point in scene units, > 0. Default 0.5.
-  virtual float Sigma() const = 0;
-  virtual void Sigma(float sigma) = 0;
-  /// Makes the heights anew from the points: where they lie most thickly the surface is
-  /// `graphHeight` high, > 0, and where least 0. Points that lie alike everywhere, or none, leave
-  /// it flat at 0. Raises Overflow, before anything changes, when the lattice does not fit in
-  /// memory.
-  virtual void GenerateParzenMap(float graphHeight) = 0;
-};
-
 /// Points on the floor of the chart's grid, and the surface that is high where they lie thickly.
 /// The surface is brought up to date at every export.
-class ORVANE_API DensitySurfaceInfo final : public LatticeSurface, public IDensitySurfaceInfo {
+class ORVANE_API DensitySurfaceInfo final : public LatticeSurface {
  public:
   static constexpr const char* kClassName = "DensitySurfaceInfo";
   const host::TypeInfo& Type() const override;
@@ -33,13 +18,14 @@ class ORVANE_API DensitySurfaceInfo final : public LatticeSurface, public IDensi
   /// The points, each (x, z) in scene units on the floor; a live list.
   scene::MFVec2f& PointList() { return *m_points; }
 
-  float Sigma() const override { return m_sigma; }
-  void Sigma(float sigma) override;
-  void GenerateParzenMap(float graphHeight) override;
-
-  /// A density surface has no popups: 0, and a let does nothing.
-  float PopupZOffset() const override { return 0; }
-  void PopupZOffset(float) override {}
+  /// Width of the kernel around each point in scene units, > 0. Default 0.5.
+  float Sigma() const { return m_sigma; }
+  void Sigma(float sigma);
+  /// Makes the heights anew from the points: where they lie most thickly the surface is
+  /// `graphHeight` high, > 0, and where least 0. Points that lie alike everywhere, or none, leave
+  /// it flat at 0. Raises Overflow, before anything changes, when the lattice does not fit in
+  /// memory.
+  void GenerateParzenMap(float graphHeight);
 
   /// Covers the floor of a grid: three lattice points to a cell, and one more at the far end.
   void CoverCells(std::int16_t xCellCount, float cellWidth, std::int16_t zCellCount,

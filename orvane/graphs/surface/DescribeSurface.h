@@ -19,23 +19,23 @@ void DescribeMaterial(host::Describe<S>& surface) {
 
 template <class S>
 void DescribeLegendText(host::Describe<S>& surface) {
-  surface.template Property<std::string>(
-      "LegendText", &S::LegendText, &S::LegendText,
-      {"Text of the legend entry; none when it is blank", "", "", "\"\""});
+  surface.template Property<std::string>("LegendText", &S::LegendText, &S::LegendText,
+                                         {"Text of the legend entry; none when it is blank"});
 }
 
 template <class S>
 void DescribeWireColor(host::Describe<S>& surface) {
-  surface.template Property<std::int32_t>("WireColor", &S::WireColor, &S::WireColor,
-                                          {"Colour of the wires", "host RGB", "0..16777215", "0"});
+  surface.Color("WireColor", &S::WireColor, &S::WireColor, {"Colour of the wires"});
 }
 
 /// GetSurface and SurfaceCount of a chart.
 template <class G>
 void DescribeSurfaces(host::Describe<G>& graph) {
-  graph.Method("GetSurface", &G::GetSurface, {"Index"}, {"One surface", "", "1..SurfaceCount"})
+  graph
+      .Method("GetSurface", &G::GetSurface, {{"Index", host::UpTo("SurfaceCount")}},
+              {"One surface"})
       .template Property<std::int16_t>("SurfaceCount", &G::SurfaceCount, &G::SurfaceCount,
-                                       {"Number of surfaces", "", ">= 0", "0"});
+                                       {"Number of surfaces", "", host::kNotNegative});
 }
 
 }  // namespace orvane

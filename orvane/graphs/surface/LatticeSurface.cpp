@@ -9,8 +9,7 @@
 namespace orvane {
 
 LatticeSurface::LatticeSurface()
-    : m_root(scene::Create<scene::Transform>()),
-      m_toggle(scene::Create<scene::ContentToggle>()),
+    : m_toggle(scene::Create<scene::ContentToggle>()),
       m_surface(scene::Create<scene::Surface>()),
       m_wireframeHolder(scene::Create<scene::Transform>()),
       m_wireframe(scene::Create<scene::ElevationWireframe>()),
@@ -25,7 +24,7 @@ LatticeSurface::LatticeSurface()
   m_wireframeHolder->translation.Y(kWireLift);
   m_toggle->contents.Append(m_surface);
   m_toggle->contents.Append(m_wireframeHolder);
-  m_root->children.Append(m_toggle);
+  Root()->children.Append(m_toggle);
 }
 
 void LatticeSurface::Spacing(float spacing, scene::SFFloat* Lattice::*field, const char* message) {

@@ -17,35 +17,12 @@
 
 namespace orvane {
 
-/// What a chart does with a surface at export.
-class ORVANE_API IInternalSurfaceInfo {
- public:
-  virtual ~IInternalSurfaceInfo() = default;
-
-  /// Distance between neighbouring lattice points in scene units, > 0. Default 1.
-  virtual float XSpacing() const = 0;
-  virtual void XSpacing(float spacing) = 0;
-  virtual float ZSpacing() const = 0;
-  virtual void ZSpacing(float spacing) = 0;
-  /// Number of lattice points along an axis, >= 2. Default 2.
-  virtual std::int16_t XCount() const = 0;
-  virtual void XCount(std::int16_t count) = 0;
-  virtual std::int16_t ZCount() const = 0;
-  virtual void ZCount(std::int16_t count) = 0;
-  virtual std::shared_ptr<scene::ContentToggle> ContentToggle() const = 0;
-  virtual std::shared_ptr<scene::Appearance> Appearance() const = 0;
-  /// Place of the popups along z, in scene units in the surface's frame. Default 0.
-  virtual float PopupZOffset() const = 0;
-  virtual void PopupZOffset(float offset) = 0;
-};
-
 /// A lattice of heights: a shaded surface behind a content toggle, its wires just above it, and a
 /// root that the chart places. All lattices of a surface are kept alike. Heights are stored row by
 /// row, X fastest.
 class ORVANE_API LatticeSurface : public host::Object,
                                   public ISeriesInfo,
-                                  public ISceneRoot,
-                                  public IInternalSurfaceInfo {
+                                  public RootedAt<scene::Transform> {
  public:
   /// The most points that a lattice may have, 4096 x 4096: its lists take less than a gigabyte.
   static constexpr std::int32_t kMostPoints = 1 << 24;
@@ -59,21 +36,19 @@ class ORVANE_API LatticeSurface : public host::Object,
   std::int32_t WireColor() const { return m_wireframe->wireColor.Value(); }
   void WireColor(std::int32_t rgb) { m_wireframe->wireColor.Value(rgb); }
 
-  float XSpacing() const override { return m_surface->xSpacing.Value(); }
-  void XSpacing(float spacing) override;
-  float ZSpacing() const override { return m_surface->zSpacing.Value(); }
-  void ZSpacing(float spacing) override;
-  /// A let raises Overflow for a lattice of more than kMostPoints, and changes nothing then.
-  std::int16_t XCount() const override;
-  void XCount(std::int16_t count) override;
-  std::int16_t ZCount() const override;
-  void ZCount(std::int16_t count) override;
-  std::shared_ptr<scene::ContentToggle> ContentToggle() const override { return m_toggle; }
-  std::shared_ptr<scene::Appearance> Appearance() const override { return m_appearance; }
-
-  std::shared_ptr<scene::Node> RootNode() const override { return m_root; }
-  /// The same node; the chart places it.
-  const std::shared_ptr<scene::Transform>& Root() const { return m_root; }
+  /// Distance between neighbouring lattice points in scene units, > 0. Default 1.
+  float XSpacing() const { return m_surface->xSpacing.Value(); }
+  void XSpacing(float spacing);
+  float ZSpacing() const { return m_surface->zSpacing.Value(); }
+  void ZSpacing(float spacing);
+  /// Number of lattice points along an axis, >= 2. Default 2. A let raises Overflow for a lattice
+  /// of more than kMostPoints, and changes nothing then.
+  std::int16_t XCount() const;
+  void XCount(std::int16_t count);
+  std::int16_t ZCount() const;
+  void ZCount(std::int16_t count);
+  std::shared_ptr<scene::ContentToggle> ContentToggle() const { return m_toggle; }
+  std::shared_ptr<scene::Appearance> Appearance() const { return m_appearance; }
 
   /// The heights of all lattice points in scene units.
   const std::vector<float>& Heights() const { return m_surface->height.Items(); }
@@ -119,7 +94,6 @@ class ORVANE_API LatticeSurface : public host::Object,
  private:
   void Spacing(float spacing, scene::SFFloat* Lattice::*field, const char* message);
 
-  std::shared_ptr<scene::Transform> m_root;
   std::shared_ptr<scene::ContentToggle> m_toggle;
   std::shared_ptr<scene::Surface> m_surface;
   std::shared_ptr<scene::Transform> m_wireframeHolder;

@@ -3,6 +3,7 @@
 #include "orvane/graphs/grid/DescribeGridGraph.h"
 #include "orvane/graphs/surface/DescribeSurface.h"
 
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -31,11 +32,12 @@ SurfaceGraph::SurfaceGraph() {
 
 void SurfaceGraph::ResizeSurfaces(
     const std::function<SurfaceInfo::Blank(const SurfaceInfo&)>& blank) {
-  const auto surfaces = Indexes(SurfaceCount());
-  std::vector<SurfaceInfo::Blank> blanks;
-  for (const std::int16_t i : surfaces) blanks.push_back(blank(*GetSurface(i)));
-  auto next = blanks.begin();
-  for (const std::int16_t i : surfaces) GetSurface(i)->Take(std::move(*next++));
+  std::vector<std::pair<std::shared_ptr<SurfaceInfo>, SurfaceInfo::Blank>> resized;
+  for (const std::int16_t i : Indexes(SurfaceCount())) {
+    const auto surface = GetSurface(i);
+    resized.emplace_back(surface, blank(*surface));
+  }
+  for (auto& [surface, lattice] : resized) surface->Take(std::move(lattice));
 }
 
 }  // namespace orvane

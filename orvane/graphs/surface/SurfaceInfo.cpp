@@ -15,10 +15,13 @@ const host::TypeInfo& SurfaceInfo::Type() const {
   static const host::TypeInfo type =
       host::Describe<Info>("One surface of a surface or combination chart.")
           .With(DescribeMaterial<Info>)
-          .Method("Set1HeightPoint", &Info::Set1HeightPoint,
-                  {"xIndex", "zIndex", "newHeight", "PopupText"},
-                  {"Height and popup text of the point over one cell; the height is in scene units",
-                   "", "1..X cells, 1..Z cells"})
+          .Method(
+              "Set1HeightPoint", &Info::Set1HeightPoint,
+              {{"xIndex", host::UpTo("X cells")},
+               {"zIndex", host::UpTo("Z cells")},
+               "newHeight",
+               "PopupText"},
+              {"Height and popup text of the point over one cell; the height is in scene units"})
           .With(DescribeLegendText<Info>)
           .With(DescribeWireColor<Info>)
           .Property<std::shared_ptr<SurfacePopupInfo>>("PopupProps", &Info::PopupProps,
@@ -57,8 +60,9 @@ void SurfaceInfo::Set1HeightPoint(std::int16_t xIndex, std::int16_t zIndex, floa
   require(xIndex, XCount(), "X");
   require(zIndex, ZCount(), "Z");
   const std::int32_t point = (zIndex - 1) * XCount() + xIndex;
+  std::string text = PopupText;
   Height(point, newHeight);
-  m_popups->PopupSurfaceNode()->popupText.Item(point, PopupText);
+  m_popups->PopupSurfaceNode()->popupText.Item(point, std::move(text));
 }
 
 void SurfaceInfo::StandInCells(float cellWidth, float cellDepth) {

@@ -25,8 +25,9 @@ class ORVANE_API SurfaceInfo final : public LatticeSurface {
                        const std::string& PopupText);
   std::shared_ptr<SurfacePopupInfo> PopupProps() const { return m_popups; }
 
-  float PopupZOffset() const override { return m_popups->Root()->translation.Z(); }
-  void PopupZOffset(float offset) override { m_popups->Root()->translation.Z(offset); }
+  /// Place of the popups along z, in scene units in the surface's frame. Default 0.
+  float PopupZOffset() const { return m_popups->Root()->translation.Z(); }
+  void PopupZOffset(float offset) { m_popups->Root()->translation.Z(offset); }
 
   /// A lattice of other point counts: its heights are 0 and its texts empty.
   struct Blank {

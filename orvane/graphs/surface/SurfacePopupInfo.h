@@ -8,24 +8,15 @@
 
 namespace orvane {
 
-/// What a surface does with its popups.
-class ORVANE_API ISurfacePopupInfo {
- public:
-  virtual ~ISurfacePopupInfo() = default;
-
-  virtual std::shared_ptr<scene::PopupSurface> PopupSurfaceNode() const = 0;
-};
-
 /// An invisible surface over the lattice.
-class ORVANE_API SurfacePopupInfo final : public PopupLook<scene::PopupSurface>,
-                                          public ISurfacePopupInfo {
+class ORVANE_API SurfacePopupInfo final : public PopupLook<scene::PopupSurface> {
  public:
   static constexpr const char* kClassName = "SurfacePopupInfo";
   const host::TypeInfo& Type() const override;
 
   SurfacePopupInfo();
 
-  std::shared_ptr<scene::PopupSurface> PopupSurfaceNode() const override { return Shape(); }
+  std::shared_ptr<scene::PopupSurface> PopupSurfaceNode() const { return Shape(); }
 };
 
 }  // namespace orvane

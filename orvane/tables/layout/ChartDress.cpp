@@ -1,14 +1,12 @@
 #include "orvane/tables/layout/ChartDress.h"
 
+#include "orvane/automation/Arithmetic.h"
 #include "orvane/scene/GroupingNodes.h"
 #include "orvane/scene/ViewNodes.h"
 
 namespace orvane::tables {
-namespace {
 
-float Single(double value) { return static_cast<float>(value); }
-
-}  // namespace
+using host::Single;
 
 Style::Style(HostColor background) {
   const bool isLight = Contrast(background, kDarkInk) > Contrast(background, kLightInk);
@@ -18,48 +16,28 @@ Style::Style(HostColor background) {
   line = Mix(background, ink, 0.4);
 }
 
-std::shared_ptr<scene::Transform> Wrap(scene::MFNode& children) {
-  auto wrapping = std::make_shared<scene::Transform>();
-  children.CopyTo(wrapping->children);
-  children.Clear();
-  children.Append(wrapping);
-  return wrapping;
-}
-
-void Move(scene::MFNode& children, double x, double y) {
-  auto& translation = Wrap(children)->translation;
-  translation.X(Single(x));
-  translation.Y(Single(y));
-}
-
-void FaceViewer(const std::shared_ptr<scene::Node>& billboard) {
-  const auto node = std::dynamic_pointer_cast<scene::Billboard>(billboard);
-  node->axisOfRotation.Y(0);
-}
+void FaceViewer(scene::Billboard& billboard) { billboard.axisOfRotation.Y(0); }
 
 void DressBackground(Chart& chart, HostColor background) {
   chart.BackgroundProps()->BackgroundColor(background);
   chart.BackgroundProps()->UseBackgroundColorFade(false);
 }
 
-void DressTitle(TextInfo& title, const std::string& text, double height, double lift, double z,
-                const Style& style) {
+void DressTitle(TextInfo& title, const std::string& text, double height, const Style& style) {
   title.Text(text);
   title.TextHeight(Single(height));
   title.TextColor(style.ink);
   title.TextFont(VRMLFontFamily::VRML_SANS);
   title.TextStyle(VRMLFontStyle::VRML_BOLD);
-  title.Root()->translation.Z(Single(z));
   title.IsBillboarded(true);
-  FaceViewer(title.Root()->children.Item(1));
-  Move(title.Root()->children, 0, lift);
+  FaceViewer(*title.BillboardNode());
 }
 
 void DressLegend(ChartLegend& legend, double height, const Style& style) {
   legend.TextHeight(Single(height));
   legend.TextColor(style.ink);
   legend.IsBillboarded(true);
-  FaceViewer(legend.Board());
+  FaceViewer(*legend.BillboardNode());
 }
 
 void AddViews(Chart& chart, const std::vector<View>& views) {
@@ -99,12 +77,10 @@ void CentreForExamining(Chart& chart, const Point& middle) {
   translation.Y(Single(-middle.y));
   translation.Z(Single(-middle.z));
 
-  const auto lights = std::dynamic_pointer_cast<scene::Group>(chart.Lights()->RootNode());
-  const auto navigation =
-      std::dynamic_pointer_cast<scene::NavigationInfo>(lights->children.Item(1));
-  navigation->type.Clear();
-  navigation->type.Append("EXAMINE");
-  navigation->type.Append("ANY");
+  auto& type = chart.Lights()->Navigation()->type;
+  type.Clear();
+  type.Append("EXAMINE");
+  type.Append("ANY");
 }
 
 }  // namespace orvane::tables

@@ -7,7 +7,6 @@
 #include "orvane/tables/layout/Color.h"
 #include "orvane/tables/layout/Views.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -27,21 +26,13 @@ struct Style {
   HostColor line;
 };
 
-/// Hangs all of `children` into a Transform that takes their place, and returns it.
-std::shared_ptr<scene::Transform> Wrap(scene::MFNode& children);
-
-/// Moves all that hangs in `children` by (x, y) in their common frame.
-void Move(scene::MFNode& children, double x, double y);
-
 /// Makes a billboard face the viewer also from above.
-void FaceViewer(const std::shared_ptr<scene::Node>& billboard);
+void FaceViewer(scene::Billboard& billboard);
 
 void DressBackground(Chart& chart, HostColor background);
 
-/// A bold line, `height` high, that faces the viewer, `lift` above the place that its chart gives
-/// it and `z` behind or in front of it.
-void DressTitle(TextInfo& title, const std::string& text, double height, double lift, double z,
-                const Style& style);
+/// A bold line, `height` high, that faces the viewer.
+void DressTitle(TextInfo& title, const std::string& text, double height, const Style& style);
 
 /// Texts `height` high; the legend faces the viewer.
 void DressLegend(ChartLegend& legend, double height, const Style& style);

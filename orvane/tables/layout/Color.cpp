@@ -1,7 +1,6 @@
 #include "orvane/tables/layout/Color.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 namespace orvane::tables {
@@ -10,14 +9,6 @@ namespace {
 int Component(HostColor color, int shift) { return color >> shift & 0xFF; }
 
 }  // namespace
-
-std::optional<HostColor> ParseColor(std::string_view text) {
-  if (text.size() != 7 || text[0] != '#') return {};
-  std::int32_t rgb = 0;
-  const auto result = std::from_chars(text.data() + 1, text.data() + text.size(), rgb, 16);
-  if (result.ec != std::errc() || result.ptr != text.data() + text.size() || rgb < 0) return {};
-  return Component(rgb, 16) | Component(rgb, 8) << 8 | Component(rgb, 0) << 16;
-}
 
 HostColor Mix(HostColor from, HostColor to, double share) {
   HostColor mixed = 0;

@@ -1,19 +1,17 @@
 /// Colours as people write them, and the arithmetic that a chart's look needs.
 #pragma once
 
+#include "orvane/automation/Coercion.h"
 #include "orvane/automation/Export.h"
 
 #include <cstdint>
-#include <optional>
-#include <string_view>
 
 namespace orvane::tables {
 
 /// A colour in the object model's encoding: red in bits 0-7, green in 8-15, blue in 16-23.
 using HostColor = std::int32_t;
 
-/// The colour that `text` ("#rrggbb") spells, if it does.
-ORVANE_API std::optional<HostColor> ParseColor(std::string_view text);
+using host::ParseColor;
 
 /// The colour `share` (0 to 1) of the way from `from` to `to`.
 ORVANE_API HostColor Mix(HostColor from, HostColor to, double share);

@@ -26,12 +26,9 @@ double LineStrength(double pitch, const GridLayout& layout);
 /// Extents and colours. `pitch` is the least distance between two lines.
 void DressGrid(GridInfo& grid, const GridLayout& layout, double pitch, const Style& style);
 
-/// Texts, sizes and colours of an axis, its labels in the middle of their cells or on their lines.
+/// Texts, sizes and colours of an axis.
 void DressAxis(Axis& axis, const LabelColumn& labels, const std::string& header,
                const GridLayout& layout, const Style& style);
-
-/// Moves labels and headers away from the grid, along their lines.
-void SetLabelsOff(const Axis& x, const Axis& y, const Axis& z, const GridLayout& layout);
 
 /// Range and number format of the labels.
 void DressValues(ContinuousAxis& axis, const ValueScale& scale);

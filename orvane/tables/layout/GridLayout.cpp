@@ -2,6 +2,7 @@
 
 #include "orvane/components/NumberPicture.h"
 #include "orvane/tables/layout/Texts.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,6 +35,65 @@ LabelColumn LayOutLabels(const std::vector<std::string>& texts, double pitch, do
     column.texts.push_back(i % step == 0 ? Label(texts[i]) : "");
   }
   return column;
+}
+
+/// Where labels in front of the grid begin, in depths of the grid, at most.
+constexpr double kFront = 1.05;
+
+double FrontOf(const GridLayout& layout) {
+  return kFront * layout.size.depth + layout.placement.xAxis.edge.plus;
+}
+
+GridLayout LayOutSize(const ValueScale& scale, const GridSize& usual, const ChartOptions& options) {
+  GridLayout layout;
+  layout.scale = scale;
+  layout.size = options.size.value_or(usual);
+  const auto [width, height, depth] = layout.size;
+  layout.textHeight = 0.032 * std::hypot(width, height, depth);
+  return layout;
+}
+
+/// Labels stand `gap` farther from the grid than in a new chart, headers clear of them and beside
+/// their middle.
+void PlaceAxes(GridLayout& layout, double gap) {
+  const auto place = [&](AxisPlacement& axis, const LabelColumn& labels, double farther) {
+    axis.edge.plus = farther;
+    axis.header = {{0, layout.HeaderDistance(labels)}, labels.height / 2};
+  };
+  place(layout.placement.xAxis, layout.xLabels, gap);
+  place(layout.placement.zAxis, layout.zLabels, gap);
+  // The lowest label along y keeps clear of the first one along x.
+  place(layout.placement.yAxis, layout.yLabels, 2.6 * gap / std::numbers::sqrt2);
+}
+
+/// Sizes and places of the title, and of a legend with an entry for each of `names`; the extents
+/// and textHeight of `layout` are given.
+void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
+                          const std::vector<std::string>& names) {
+  const double width = layout.size.width;
+  const double height = layout.size.height;
+
+  // All entries are shown, if need be small: each may have its check box.
+  layout.legend.height = layout.textHeight;
+  if (!names.empty()) {
+    const double pitch = 0.9 * height / static_cast<double>(names.size());
+    layout.legend.height = std::min(layout.textHeight, pitch / kLegendPitch);
+  }
+  for (const std::string& name : names) layout.legend.texts.push_back(Label(name));
+
+  layout.title = title;
+  layout.titleHeight = 1.8 * layout.textHeight;
+  if (const double titleWidth = TextWidth(layout.title, 1); titleWidth > 0) {
+    const double fitting = 1.3 * width / titleWidth;
+    layout.titleHeight = std::clamp(fitting, 1.1 * layout.textHeight, layout.titleHeight);
+  }
+  // Seen from the corner, the upper edge of the back wall rises to the left by 0.3 of the way, as
+  // far as the wall goes, while the title is level.
+  const double overWall = std::min(TextWidth(layout.title, layout.titleHeight) / 2, 0.4 * width);
+  GridPlacement& placement = layout.placement;
+  placement.titleY.plus = std::max(0.0, 0.26 * overWall + 0.3 * layout.titleHeight - 0.1 * height);
+  // Behind the back wall, it is clear of a tall legend when seen from the top.
+  placement.titleZ = std::min(0.0, 0.25 * height - layout.LegendHeight());
 }
 
 }  // namespace
@@ -76,40 +136,39 @@ ValueRange RangeOf(const Table& table) {
 }
 
 GridTexts TextsOf(const Table& table) {
-  GridTexts texts{table.categories, {}, {}, table.categoryHeader};
+  GridTexts texts{table.categories, {}, {}, table.categoryHeader, table.unit};
   for (const TableSeries& series : table.series) texts.z.push_back(series.name);
   texts.legend = texts.z;
   return texts;
 }
 
-GridLayout LayOutGrid(const Table& table, const ChartOptions& options) {
+GridLayout LayOutSeries(const Table& table, const ChartOptions& options) {
   GridTexts texts = TextsOf(table);
   if (options.isGrouped) texts.z = {""};
   const auto [lowest, highest] = RangeOf(table);
-  return LayOutGrid(texts, RoundScale(lowest, highest, kMostValueCells),
-                    SizeFor(texts.x.size(), texts.z.size()), options);
+  return LayOutCategories(texts, RoundScale(lowest, highest, kMostValueCells),
+                          SizeFor(texts.x.size(), texts.z.size()), options);
 }
 
-GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
-                      const ChartOptions& options) {
-  GridLayout layout;
-  layout.size = options.size.value_or(usual);
-  layout.scale = scale;
+GridLayout LayOutCategories(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
+                            const ChartOptions& options) {
+  GridLayout layout = LayOutSize(scale, usual, options);
   layout.xHeader = Label(texts.xHeader);
   layout.yHeader = layout.scale.UnitText();
+  if (!texts.unit.empty())
+    layout.yHeader = std::string(WithoutBlanks(texts.unit + " " + layout.yHeader));
 
   const auto [width, height, depth] = layout.size;
   const double cellWidth = width / static_cast<double>(texts.x.size());
   const double cellDepth = depth / static_cast<double>(texts.z.size());
 
-  layout.textHeight = 0.032 * std::hypot(width, height, depth);
   layout.xLabels = LayOutLabels(texts.x, cellWidth, layout.textHeight);
   layout.yLabels = LayOutNumbers(layout.scale, height, layout.textHeight);
   layout.zLabels = LayOutLabels(texts.z, cellDepth, layout.textHeight);
 
   // In narrow cells the first labels stand close to the corners of the grid, as those along y do.
-  if (cellWidth < 2 * layout.textHeight) layout.labelGap = 0.4 * layout.textHeight;
-
+  const bool isNarrow = cellWidth < 2 * layout.textHeight;
+  PlaceAxes(layout, isNarrow ? 0.4 * layout.textHeight : 0);
   LayOutTitleAndLegend(layout, options.title, texts.legend);
   return layout;
 }
@@ -119,13 +178,12 @@ std::string ValueAxes::HeaderOf(const std::string& header, const ValueScale& sca
   return Label(header) + (unit.empty() ? "" : " (" + unit + ")");
 }
 
-GridLayout LayOutGrid(const ValueAxes& axes, const std::vector<std::string>& names,
-                      const GridSize& usual, const ChartOptions& options) {
-  GridLayout layout;
-  layout.scale = axes.y;
-  layout.size = options.size.value_or(usual);
+GridLayout LayOutValues(const ValueAxes& axes, const std::vector<std::string>& names,
+                        const GridSize& usual, const ChartOptions& options,
+                        const GridPlacement& placement) {
+  GridLayout layout = LayOutSize(axes.y, usual, options);
+  layout.placement = placement;
   const auto [width, height, depth] = layout.size;
-  layout.textHeight = 0.032 * std::hypot(width, height, depth);
   layout.xLabels = LayOutNumbers(axes.x, width, layout.textHeight);
   layout.yLabels = LayOutNumbers(axes.y, height, layout.textHeight);
   layout.zLabels = LayOutNumbers(axes.z, depth, layout.textHeight);
@@ -133,35 +191,13 @@ GridLayout LayOutGrid(const ValueAxes& axes, const std::vector<std::string>& nam
   layout.yHeader = axes.yHeader;
   layout.zHeader = axes.zHeader;
   // Two axes each have a label at the corners of the grid.
-  layout.labelGap = 0.5 * layout.textHeight;
+  PlaceAxes(layout, 0.5 * layout.textHeight);
   LayOutTitleAndLegend(layout, options.title, names);
   return layout;
 }
 
-void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
-                          const std::vector<std::string>& names) {
-  const double width = layout.size.width;
-  const double height = layout.size.height;
-
-  // All entries are shown, if need be small: each may have its check box.
-  layout.legend.height = layout.textHeight;
-  if (!names.empty()) {
-    const double pitch = 0.9 * height / static_cast<double>(names.size());
-    layout.legend.height = std::min(layout.textHeight, pitch / kLegendPitch);
-  }
-  for (const std::string& name : names) layout.legend.texts.push_back(Label(name));
-
-  layout.title = title;
-  layout.titleHeight = 1.8 * layout.textHeight;
-  if (const double titleWidth = TextWidth(layout.title, 1); titleWidth > 0) {
-    const double fitting = 1.3 * width / titleWidth;
-    layout.titleHeight = std::clamp(fitting, 1.1 * layout.textHeight, layout.titleHeight);
-  }
-  // Seen from the corner, the upper edge of the back wall rises to the left by 0.3 of the way, as
-  // far as the wall goes, while the title is level.
-  const double overWall = std::min(TextWidth(layout.title, layout.titleHeight) / 2, 0.4 * width);
-  layout.titleLift = std::max(0.0, 0.26 * overWall + 0.3 * layout.titleHeight - 0.1 * height);
-  layout.titleZ = std::min(0.0, 0.25 * height - layout.LegendHeight());
+double GridLayout::FrontEdge() const {
+  return FrontOf(*this) + HeaderDistance(xLabels) + 2.2 * textHeight;
 }
 
 Subject SubjectOf(const GridLayout& layout) {
@@ -180,8 +216,9 @@ Subject SubjectOf(const GridLayout& layout) {
   }
 
   // Category labels lie in front of the grid and to the right of it, the header beyond them.
-  const double front = kFront * depth + layout.labelGap;
-  const double right = 1.02 * width + layout.labelGap;
+  const GridPlacement& placement = layout.placement;
+  const double front = FrontOf(layout);
+  const double right = width + placement.zAxis.edge.Of(width);
   for (const double x : {0.0, width}) {
     subject.points.push_back({x, 0, front + layout.xLabels.Width()});
   }
@@ -201,8 +238,9 @@ Subject SubjectOf(const GridLayout& layout) {
 
   // Value labels extend from the front left edge in the direction halfway between left and front.
   const auto addBesideEdge = [&](double distance, double y) {
-    const double along = (layout.YLabelGap() + distance) / std::numbers::sqrt2;
-    subject.points.push_back({-0.02 * width - along, y, kFront * depth + along});
+    const double along = placement.yAxis.edge.plus + distance / std::numbers::sqrt2;
+    subject.points.push_back(
+        {-placement.yAxis.edge.part * width - along, y, kFront * depth + along});
   };
   for (const double y : {-text / 2, height + text / 2}) addBesideEdge(layout.yLabels.Width(), y);
   const double yHeader = TextWidth(layout.yHeader, text) / 2;
@@ -212,17 +250,21 @@ Subject SubjectOf(const GridLayout& layout) {
 
   if (!layout.title.empty()) {
     const double half = TextWidth(layout.title, layout.titleHeight) / 2;
-    subject.signs.push_back({{width / 2, 1.1 * height + layout.titleLift, layout.titleZ},
-                             -half,
-                             half,
-                             -0.25 * layout.titleHeight,
-                             layout.titleHeight});
+    subject.signs.push_back(
+        {{placement.titleX.Of(width), placement.titleY.Of(height), placement.titleZ.value_or(0)},
+         -half,
+         half,
+         -0.25 * layout.titleHeight,
+         layout.titleHeight});
   }
   if (layout.legend.texts.empty()) return subject;
   // Check box, key and text stand side by side.
   const double legendWidth = 2.3 * layout.legend.height + layout.legend.Width();
-  subject.signs.push_back(
-      {{1.1 * width, 0.1 * height, 0}, 0, legendWidth, 0, layout.LegendHeight()});
+  subject.signs.push_back({{placement.legendX.Of(width), placement.legendY.Of(height), 0},
+                           0,
+                           legendWidth,
+                           0,
+                           layout.LegendHeight()});
   return subject;
 }
 

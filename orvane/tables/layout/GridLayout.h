@@ -3,6 +3,7 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
+#include "orvane/graphs/GridPlacement.h"
 #include "orvane/tables/ChartOptions.h"
 #include "orvane/tables/layout/ValueScale.h"
 #include "orvane/tables/layout/Views.h"
@@ -29,6 +30,7 @@ struct GridTexts {
   std::vector<std::string> z;
   std::vector<std::string> legend;
   std::string xHeader;
+  std::string unit = {};  ///< Of the values: "%" or a currency.
 };
 
 /// Texts and sizes of a chart over a grid. Lengths are in scene units.
@@ -44,37 +46,27 @@ struct ORVANE_API GridLayout {
   std::string zHeader;
   std::string title;
   double titleHeight = 0;
-  double titleLift = 0;   ///< Above its usual place, clear of the wall when seen from the corner.
-  double titleZ = 0;      ///< Behind the back wall, clear of a tall legend when seen from the top.
-  double labelGap = 0;    ///< Between grid and labels, beyond what their chart leaves.
   double textHeight = 0;  ///< Of headers and popups, and of labels that have the room.
+  GridPlacement placement;
 
   double CellWidth() const { return size.width / static_cast<double>(xLabels.texts.size()); }
   double CellDepth() const { return size.depth / static_cast<double>(zLabels.texts.size()); }
-  /// The lowest label along y keeps clear of the first one along x.
-  double YLabelGap() const { return 2.6 * labelGap; }
   double LegendHeight() const;
+  /// Where the x axis with its labels and header ends in front of the grid, at most.
+  double FrontEdge() const;
   /// How far from the origin of `labels` their header begins.
   double HeaderDistance(const LabelColumn& labels) const {
     return labels.Width() + 0.4 * textHeight;
   }
 };
 
-/// Where labels in front of the grid begin, in depths of the grid, at most.
-inline constexpr double kFront = 1.05;
-
 /// The labels of an axis of values that is `extent` long, from the highest down, as high as
 /// `wanted` where there is room.
 LabelColumn LayOutNumbers(const ValueScale& scale, double extent, double wanted);
 
-/// Sizes and places of the title, and of a legend with an entry for each of `names`; the extents
-/// and textHeight of `layout` are given.
-void LayOutTitleAndLegend(GridLayout& layout, const std::string& title,
-                          const std::vector<std::string>& names);
-
 /// The layout for `table`: categories along x, values along y, one series a cell along z, or all in
 /// one cell when they are grouped.
-ORVANE_API GridLayout LayOutGrid(const Table& table, const ChartOptions& options);
+ORVANE_API GridLayout LayOutSeries(const Table& table, const ChartOptions& options);
 
 /// The texts of a table with a row of series in each cell along z.
 GridTexts TextsOf(const Table& table);
@@ -89,9 +81,10 @@ ValueRange RangeOf(const Table& table);
 /// How many cells a value axis has at most.
 inline constexpr int kMostValueCells = 6;
 
-/// The layout for other charts; `usual` is the size that suits the data.
-GridLayout LayOutGrid(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
-                      const ChartOptions& options);
+/// The layout for other charts with categories along x and z; `usual` is the size that suits the
+/// data.
+GridLayout LayOutCategories(const GridTexts& texts, const ValueScale& scale, const GridSize& usual,
+                            const ChartOptions& options);
 
 /// What a chart with values along all three axes says.
 struct ValueAxes {
@@ -107,9 +100,10 @@ struct ValueAxes {
 };
 
 /// The layout for charts with values along all three axes and a legend with an entry for each of
-/// `names`.
-GridLayout LayOutGrid(const ValueAxes& axes, const std::vector<std::string>& names,
-                      const GridSize& usual, const ChartOptions& options);
+/// `names`; `placement` is that of a new chart.
+GridLayout LayOutValues(const ValueAxes& axes, const std::vector<std::string>& names,
+                        const GridSize& usual, const ChartOptions& options,
+                        const GridPlacement& placement = {});
 
 /// The size that suits that many cells of a chart with series.
 GridSize SizeFor(std::size_t xCells, std::size_t zCells);

@@ -105,8 +105,8 @@ void LayOutLegend(const std::vector<PieShare>& shares, PieLayout& layout) {
     right = std::max(right, label.distance * std::cos(label.angle) + half);
   }
   // What is nearer than the legend looks larger.
-  layout.legendPlace = {1.08 * right + layout.textHeight,
-                        layout.height / 2 - layout.LegendHeight() / 2, 0};
+  layout.placement.legendX = {0, 1.08 * right + layout.textHeight};
+  layout.placement.legendY = {0.5, -layout.LegendHeight() / 2};
 }
 
 void LayOutTitle(const std::string& title, PieLayout& layout) {
@@ -120,8 +120,9 @@ void LayOutTitle(const std::string& title, PieLayout& layout) {
   for (const PieLabel& label : layout.labels) {
     back = std::max(back, -label.distance * std::sin(label.angle));
   }
-  layout.titleY = layout.height + 0.27 * layout.radius;
-  layout.titleZ = -back - 1.2 * layout.textHeight;
+  layout.placement.titleY = {1, 0.27 * layout.radius};
+  // Behind the pie, so that it stands above it also when seen from above.
+  layout.placement.titleZ = -back - 1.2 * layout.textHeight;
 }
 
 Subject SubjectOf(const PieLayout& layout) {
@@ -142,11 +143,8 @@ Subject SubjectOf(const PieLayout& layout) {
   }
   if (!layout.title.empty()) {
     const double half = TextWidth(layout.title, layout.titleHeight) / 2;
-    subject.signs.push_back({{0, layout.titleY, layout.titleZ},
-                             -half,
-                             half,
-                             -0.25 * layout.titleHeight,
-                             layout.titleHeight});
+    subject.signs.push_back(
+        {layout.TitlePlace(), -half, half, -0.25 * layout.titleHeight, layout.titleHeight});
   }
   // Check box, key and text stand side by side.
   double width = 0;
@@ -154,7 +152,7 @@ Subject SubjectOf(const PieLayout& layout) {
     width = std::max(width, TextWidth(text, layout.legendTextHeight));
   }
   subject.signs.push_back(
-      {layout.legendPlace, 0, width + 2.3 * layout.legendTextHeight, 0, layout.LegendHeight()});
+      {layout.LegendPlace(), 0, width + 2.3 * layout.legendTextHeight, 0, layout.LegendHeight()});
   return subject;
 }
 
@@ -162,6 +160,14 @@ Subject SubjectOf(const PieLayout& layout) {
 
 double PieLayout::LegendHeight() const {
   return kLegendPitch * legendTextHeight * static_cast<double>(legend.size());
+}
+
+Point PieLayout::TitlePlace() const {
+  return {0, placement.titleY.Of(height), placement.titleZ.value_or(0)};
+}
+
+Point PieLayout::LegendPlace() const {
+  return {placement.legendX.Of(radius), placement.legendY.Of(height), 0};
 }
 
 PieLayout LayOutPie(const std::vector<PieShare>& shares, const ChartOptions& options) {

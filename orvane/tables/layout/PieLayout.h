@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
+#include "orvane/graphs/pie/PieGraph.h"
 #include "orvane/tables/ChartOptions.h"
 #include "orvane/tables/layout/Views.h"
 #include "orvane/tables/read/PieTable.h"
@@ -29,13 +30,15 @@ struct ORVANE_API PieLayout {
   std::vector<PieLabel> labels;
   std::vector<std::string> legend;
   double legendTextHeight = 0;
-  Point legendPlace;  ///< Its lower left corner, on the screen the further right the larger x is.
   std::string title;
   double titleHeight = 0;
-  double titleY = 0;
-  double titleZ = 0;  ///< Behind the pie, so that it stands above it also when seen from above.
+  PiePlacement placement;
 
   double LegendHeight() const;
+  /// The middle of the title's baseline.
+  Point TitlePlace() const;
+  /// The legend's lower left corner.
+  Point LegendPlace() const;
 };
 
 ORVANE_API PieLayout LayOutPie(const std::vector<PieShare>& shares, const ChartOptions& options);

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
-#include "orvane/tables/read/Source.h"
+#include "orvane/tables/read/ReadOptions.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <cstddef>
 #include <string>
@@ -25,6 +26,7 @@ struct CloudTable {
   std::string xHeader;
   std::string zHeader;
   std::vector<Cloud> clouds;  ///< In the order in which they first stand in the file.
+  std::vector<std::string> warnings;
 };
 
 /// The most clouds that a chart shows as surfaces.
@@ -32,6 +34,6 @@ inline constexpr std::size_t kMostClouds = 200;
 
 /// Reads a header, then x, z and, where there is a third column, the name of a group in each row.
 /// Raises FileError, naming line and column.
-ORVANE_API CloudTable ReadCloudTable(const Source& source);
+ORVANE_API CloudTable ReadCloudTable(Rows& rows, const ReadOptions& options = {});
 
 }  // namespace orvane::tables

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "orvane/automation/Export.h"
-#include "orvane/tables/read/Source.h"
 #include "orvane/tables/read/Table.h"
 
 #include <string>
@@ -17,9 +16,9 @@ struct PieShare {
   double rise = 1;    ///< Height in parts of the highest slice's, 0..1.
 };
 
-/// Reads labels, values, and, where there is a third column, heights. Raises FileError for what
-/// ReadTable does not read, for more columns, for a negative number, and where all values or all
-/// heights are 0, naming line and column.
-ORVANE_API std::vector<PieShare> ReadPieTable(const Source& source, MissingCell missing);
+/// The shares of labels, values, and, where there is a second series, heights. A gap has no share.
+/// Raises FileError for more series, for a negative number, and where all values or all heights are
+/// 0, naming line and column.
+ORVANE_API std::vector<PieShare> PieSharesOf(const Table& table);
 
 }  // namespace orvane::tables

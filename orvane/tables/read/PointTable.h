@@ -3,7 +3,8 @@
 
 #include "orvane/automation/Export.h"
 #include "orvane/tables/layout/Color.h"
-#include "orvane/tables/read/Source.h"
+#include "orvane/tables/read/ReadOptions.h"
+#include "orvane/tables/read/Rows.h"
 
 #include <optional>
 #include <string>
@@ -33,6 +34,7 @@ struct PointTable {
   bool hasSizes = false;
   std::vector<std::string> groups;  ///< In order of appearance; empty without a group column.
   std::vector<PointFrame> frames;   ///< In order of appearance; one without a frame column.
+  std::vector<std::string> warnings;
 };
 
 /// The most points that a frame holds, and the most frames.
@@ -44,6 +46,6 @@ inline constexpr std::size_t kMostPoints = 32767;
 ///
 /// Raises FileError, naming line and column, for what is missing, named twice or no number, for a
 /// size below 0, for what is no colour, and for a frame of more than kMostPoints.
-ORVANE_API PointTable ReadPointTable(const Source& source);
+ORVANE_API PointTable ReadPointTable(Rows& rows, const ReadOptions& options = {});
 
 }  // namespace orvane::tables

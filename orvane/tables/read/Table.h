@@ -1,9 +1,11 @@
-/// A table of numbers read from CSV: categories down, series across.
+/// A table of numbers: categories down, series across.
 #pragma once
 
 #include "orvane/automation/Export.h"
-#include "orvane/tables/read/Source.h"
+#include "orvane/tables/read/ReadOptions.h"
+#include "orvane/tables/read/Rows.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -11,35 +13,48 @@
 
 namespace orvane::tables {
 
-/// What an empty cell among the numbers means.
-enum class MissingCell { Error, Zero };
-
-/// One number, beside the text that spells it in the file.
+/// One number, beside the text that spells it.
 struct TableCell {
-  double number = 0;
+  double number = 0;  ///< Not a number where there is none.
   std::string text;
-  std::size_t offset = 0;  ///< Where it stands in the file, for messages.
+  Place place;  ///< For messages; without a row where the number was worked out.
+
+  bool IsGap() const { return std::isnan(number); }
 };
 
 struct TableSeries {
   std::string name;
   std::vector<TableCell> cells;  ///< One for each category.
-  std::size_t offset = 0;        ///< Of the name in the header.
+  Place place;                   ///< Of the name in the header.
 };
 
 struct Table {
-  std::string file;            ///< What messages call it.
+  Origin origin;               ///< What messages call it.
   std::string categoryHeader;  ///< The header of the first column.
   std::vector<std::string> categories;
   std::vector<TableSeries> series;
+  std::string unit;                   ///< "%" or a currency that all numbers have.
+  std::vector<std::string> warnings;  ///< What a user should know.
 };
 
 /// The most categories or series that a chart's grid takes as cells.
 inline constexpr std::int16_t kMostCells = 32766;
 
-/// Reads a table whose first column holds category labels and whose header names the series.
+/// The numbers of one series by its name, one for each category.
+struct NamedNumbers {
+  std::string name;
+  std::vector<double> numbers;
+};
+
+/// A table made in memory. Raises FileError for a series that has more or fewer numbers than there
+/// are categories, or one that is not finite, and where there is nothing to chart.
+ORVANE_API Table MakeTable(std::vector<std::string> categories,
+                           const std::vector<NamedNumbers>& series);
+
+/// Reads categories and series as `options` has them, and arranges them so.
 ///
-/// Raises FileError, naming line and column, for anything else.
-ORVANE_API Table ReadTable(const Source& source, MissingCell missing);
+/// Raises FileError, naming the place, for what is no table of numbers, can be read in two ways, or
+/// is more than a chart can show.
+ORVANE_API Table ReadTable(Rows& rows, const ReadOptions& options = {});
 
 }  // namespace orvane::tables

@@ -9,7 +9,9 @@
 namespace orvane::tables {
 namespace {
 
-PointTable Read(const std::string& text) { return ReadPointTable(Source("t.csv", text)); }
+PointTable Read(const std::string& text) {
+  return ReadPointTable(*TableText("t.csv", text).open({}));
+}
 
 TEST(PointTable, FindsItsColumnsByName) {
   const PointTable table = Read(

@@ -10,8 +10,8 @@
 namespace orvane::tables {
 namespace {
 
-Table Read(const std::string& text, MissingCell missing = MissingCell::Error) {
-  return ReadTable(Source("t.csv", text), missing);
+Table Read(const std::string& text, const ReadOptions& options = {}) {
+  return ReadTable(*TableText("t.csv", text).open(options), options);
 }
 
 TEST(Table, GivesItsLabelsAndNumbers) {
@@ -48,7 +48,11 @@ TEST(Table, GivesItsLabelsAndNumbers) {
 }
 
 TEST(Table, KeepsSpellingsAndReadsEmptyCellsAsZeroOnDemand) {
-  const Table table = Read("Month,a,b\nx, 1.50 ,\" \"\n", MissingCell::Zero);
+  const Table table = Read("Month,a,b\nx, 1.50 ,\" \"\n", [] {
+    ReadOptions options;
+    options.missing = Missing::Zero;
+    return options;
+  }());
   EXPECT_EQ(table.categoryHeader, "Month");
   EXPECT_EQ(table.series[0].cells[0].text, "1.50");
   EXPECT_EQ(table.series[1].cells[0].text, "0");
@@ -74,18 +78,20 @@ TEST(Table, SaysWhatIsWrongAndWhere) {
       {"m,a\nx,1,2\n", "t.csv:2:5: the row has 3 cell(s), the header has 2"},
       {"m,a,b\nx,1,2\nJan,abc,3\n", "t.csv:3:5: \"abc\" is not a number"},
       {"m,a\nx,1 2\n", "t.csv:2:3: \"1 2\" is not a number"},
-      {"m,a\nx,\"1,000\"\n", "t.csv:2:3: \"1,000\" is not a number"},
       {"m,a\nx,+-1\n", "t.csv:2:3: \"+-1\" is not a number"},
-      {"m,a\nx,\n", "t.csv:2:3: empty cell (--missing zero reads it as 0)"},
-      {"m,a\nx,NaN\n", "t.csv:2:3: \"NaN\" is not a finite number"},
+      {"m,a\nx,\n",
+       "t.csv:2:3: empty cell (--missing zero, previous or linear says what it stands for)"},
       {"m,a\nx,-inf\n", "t.csv:2:3: \"-inf\" is not a finite number"},
       {"m,a\nx,1e999\n", "t.csv:2:3: \"1e999\" is too large or too small"},
       {"m,a\n\"x,1\ny,2\n", "t.csv:2:1: the quote is never closed"},
       {"m,a\nx\"y,1\n", "t.csv:2:2: a quote inside a cell that is not quoted"},
-      {"m,a\n\"x\"y,1\n", "t.csv:2:4: expected a comma or the end of the line after the quote"},
-      {"m,a\nx,1\0\n"s, "t.csv:2:4: NUL where text is expected"},
-      {"m,a\n\xC3\xA4\xFFx,1\n", "t.csv:2:2: malformed UTF-8"},
-      {"m,\xC0\xAF\nx,1\n", "t.csv:1:3: malformed UTF-8"},
+      {"m,a\n\"x\"y,1\n", "t.csv:2:4: expected \",\" or the end of the line after the quote"},
+      {"m,a\nx,1\0\n"s,
+       "t.csv:2:4: NUL where text is expected (--encoding UTF-16LE reads what has no mark)"},
+      {"m,a\n\xC3\xA4\xFFx,1\n",
+       "t.csv:2:2: malformed UTF-8 (--encoding names another, such as windows-1252)"},
+      {"m,\xC0\xAF\nx,1\n",
+       "t.csv:1:3: malformed UTF-8 (--encoding names another, such as windows-1252)"},
       {"m,a,b,a\nx,1,2,3\n", "t.csv:1:7: series name \"a\" is already that of column 2"},
       {"m,a\n" + Repeated("x,1\n", kMostCells + 1), "t.csv:32768:1: more than 32766 categories"},
       {manySeries + "\n", "t.csv:1:185489: more than 32766 series"},
