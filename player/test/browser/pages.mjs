@@ -97,8 +97,10 @@ class Pair {
       if (!['warning', 'error'].includes(message.type()) || /GL Driver Message/.test(message.text())) return;
       pair.complaints.push(message.text());
     });
+    const failed = new Promise((_, reject) => { pair.page.once('pageerror', reject); });
+    failed.catch(() => {}); // a later one is a complaint
     await pair.page.goto(new URL(`play.html?world=${world}.wrl`, url).href);
-    await pair.page.locator('body[data-ready]').waitFor({ state: 'attached' });
+    await Promise.race([pair.page.locator('body[data-ready]').waitFor({ state: 'attached' }), failed]);
     return pair;
   }
 
