@@ -152,7 +152,7 @@ async function measure(url, isMoving) {
     const complaints = [];
     tab.on('pageerror', (error) => complaints.push(String(error)));
     await tab.addInitScript(watch);
-    await tab.goto(url);
+    await tab.goto(url, { timeout: PATIENCE });
     await tab.waitForFunction(isMoving
       ? (quiet) => window.isShown() && window.frames_.length > quiet
       : (quiet) => window.isShown() && window.quiet >= quiet, QUIET, { polling: 200, timeout: PATIENCE });
