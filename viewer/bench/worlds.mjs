@@ -1,8 +1,11 @@
-// Measures what `orvane chart` writes, in X_ITE, beside the same data in ECharts-GL and Plotly, in one
-// run, and prints one table:
+// Measures what `orvane chart` writes, in X_ITE and in the player, beside the same data in ECharts-GL and
+// Plotly, in one run, and prints one table:
 //
 //   scripts/build && npm ci --prefix viewer/bench
-//   node viewer/bench/worlds.mjs [--rounds N] [--only TEXT] [--kinds x_ite,echarts,plotly] [--protos DIR]
+//   node viewer/bench/worlds.mjs [--rounds N] [--only TEXT] [--kinds x_ite,player,echarts,plotly] [--protos DIR]
+//
+// The player is the one in player/dist (npm run build), or in the folder that PLAYER names. Ratios are those of
+// the first of the kinds.
 //
 // Each measurement is a browser of its own, with a picture of 1280 x 800; each number is the median of the
 // rounds. "first" is the first frame that shows anything, "final" the first one that shows the picture
@@ -25,6 +28,7 @@ import { CASES } from './cases.mjs';
 import { watch } from './watch.mjs';
 
 const ORVANE = process.env.ORVANE ?? fileURLToPath(new URL('../../build/orvane', import.meta.url));
+const PLAYER = process.env.PLAYER ?? fileURLToPath(new URL('../../player/dist', import.meta.url));
 const SIZE = { width: 1280, height: 800 };
 const PATIENCE = 10 * 60 * 1000; // for one page, in ms
 const QUIET = 30; // tenths of a second without another picture, after which it stays
@@ -34,7 +38,7 @@ const { values: options } = parseArgs({
   options: {
     rounds: { type: 'string', default: '3' },
     only: { type: 'string', default: '' },
-    kinds: { type: 'string', default: 'x_ite,echarts,plotly' },
+    kinds: { type: 'string', default: 'x_ite,player,echarts,plotly' },
     protos: { type: 'string' },
   },
 });
@@ -48,17 +52,29 @@ const page = (body) => `<!DOCTYPE html>
 ${body}
 `;
 
+function writeWorld(folder, name, { table, words }) {
+  writeFileSync(join(folder, `${name}.csv`), table);
+  execFileSync(ORVANE, ['chart', ...words, `${name}.csv`, '-o', `${name}.wrl`], { cwd: folder });
+  for (const file of ['VR_GRAPH.wrl', 'VR_NAV.wrl', 'VR_UI.wrl']) {
+    if (options.protos) copyFileSync(join(options.protos, file), join(folder, file));
+  }
+}
+
 // Writes a case's page and data into a folder: { page, data }, the names of the files.
 const KINDS = {
-  x_ite(folder, name, { table, words }) {
-    writeFileSync(join(folder, `${name}.csv`), table);
-    execFileSync(ORVANE, ['chart', ...words, `${name}.csv`, '-o', `${name}.wrl`], { cwd: folder });
-    for (const file of ['VR_GRAPH.wrl', 'VR_NAV.wrl', 'VR_UI.wrl']) {
-      if (options.protos) copyFileSync(join(options.protos, file), join(folder, file));
-    }
+  x_ite(folder, name, chart) {
+    writeWorld(folder, name, chart);
     writeFileSync(join(folder, `${name}.html`), page(`
 <script type="module" src="x_ite/x_ite.min.mjs"></script>
 <x3d-canvas id="picture" src="${name}.wrl"></x3d-canvas>`));
+    return { page: `${name}.html`, data: [`${name}.wrl`] };
+  },
+
+  player(folder, name, chart) {
+    writeWorld(folder, name, chart);
+    writeFileSync(join(folder, `${name}.html`), page(`
+<script type="module" src="player/orvane-player.mjs"></script>
+<orvane-chart id="picture" src="${name}.wrl"></orvane-chart>`));
     return { page: `${name}.html`, data: [`${name}.wrl`] };
   },
 
@@ -136,7 +152,7 @@ async function measure(url, isMoving) {
     const complaints = [];
     tab.on('pageerror', (error) => complaints.push(String(error)));
     await tab.addInitScript(watch);
-    await tab.goto(url);
+    await tab.goto(url, { timeout: PATIENCE });
     await tab.waitForFunction(isMoving
       ? (quiet) => window.isShown() && window.frames_.length > quiet
       : (quiet) => window.isShown() && window.quiet >= quiet, QUIET, { polling: 200, timeout: PATIENCE });
@@ -178,6 +194,7 @@ async function main() {
     root: folder,
     mounts: {
       '/x_ite/': package_('x_ite/dist'),
+      '/player/': PLAYER,
       '/echarts/': package_('echarts/dist'),
       '/echarts-gl/': package_('echarts-gl/dist'),
       '/plotly/': package_('plotly.js-gl3d-dist-min'),

@@ -6,7 +6,7 @@ const WHEEL = 0.0012; // of the distance, as a logarithm, for each pixel the whe
 const KEY_ZOOM = 0.85;
 
 export class Navigation {
-  /** @param {object} view  with canvas, camera, mayNavigate, invalidate(), point(type, event), reset() */
+  /** @param {object} view  with canvas, camera, mayNavigate, invalidate(), moved(), point(type, event), reset() */
   constructor(view) {
     this.view = view;
     this.fingers = new Map(); // by id: where each is
@@ -29,7 +29,6 @@ export class Navigation {
   down(event) {
     const { view, fingers } = this;
     view.canvas.setPointerCapture(event.pointerId);
-    view.canvas.focus({ preventScroll: true });
     fingers.set(event.pointerId, event);
     if (fingers.size > 1) {
       if (this.drag === 'sensor') view.point('leave', event);
@@ -55,7 +54,7 @@ export class Navigation {
     else if (this.drag === 'turn') view.camera.turn(-TURN * dx / height, -TURN * dy / height);
     else view.camera.pan(-2 * dx / height, 2 * dy / height);
     fingers.set(event.pointerId, event);
-    view.invalidate();
+    view.moved();
   }
 
   /** Two fingers: what lies under them stays there. */
@@ -82,7 +81,7 @@ export class Navigation {
     event.preventDefault();
     const scale = event.deltaMode === 1 ? 20 : event.deltaMode === 2 ? 400 : 1;
     this.view.camera.zoom(Math.exp(Math.max(-1, Math.min(1, WHEEL * scale * event.deltaY))));
-    this.view.invalidate();
+    this.view.moved();
   }
 
   key(event) {
@@ -102,7 +101,7 @@ export class Navigation {
     if (move === undefined) return;
     event.preventDefault();
     move();
-    view.invalidate();
+    view.moved();
   }
 
   get isBusy() { return this.drag !== null && this.drag !== 'sensor'; }

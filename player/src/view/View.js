@@ -4,6 +4,7 @@
 import { Color, LinearSRGBColorSpace, Raycaster, Vector2, Vector3, WebGLRenderer, WebGLRenderTarget } from 'three';
 import { Camera } from './Camera.js';
 import { Navigation } from './Navigation.js';
+import { Screen } from './Screen.js';
 import { World } from './World.js';
 import { pick } from './picking.js';
 
@@ -16,7 +17,8 @@ const FONTS = {
 
 const SAMPLES = 4; // of a still's pixels
 const LARGEST = 8192; // side of a still in pixels
-const REST = 150; // milliseconds without a move, after which texts are drawn sharp
+const REST = 150; // milliseconds without a move, after which the picture is drawn smooth and its texts sharp
+const HELD = 600; // the same while the pointer is held down, and may soon go on
 
 export class View {
   /** @param {HTMLElement} element  gets a canvas that fills it
@@ -29,6 +31,9 @@ export class View {
     this.world = null;
     this.camera = new Camera();
     this.frame = 0;
+    this.hasMoved = false; // the viewer, since the last frame
+    this.isAtRest = true; // or a finer frame is to follow
+    this.resting = 0;
     this.waiting = [];
     this.isGone = false;
     this.pointerEvent = null;
@@ -37,7 +42,8 @@ export class View {
     this.canvas.tabIndex = 0;
     this.canvas.style.cssText = 'display: block; width: 100%; height: 100%; touch-action: none';
     element.append(this.canvas);
-    this.renderer = new WebGLRenderer({ canvas: this.canvas, antialias: true, powerPreference: 'high-performance' });
+    this.renderer = new WebGLRenderer({ canvas: this.canvas, antialias: false, powerPreference: 'high-performance' });
+    this.screen = new Screen(this.renderer);
     this.renderer.outputColorSpace = LinearSRGBColorSpace; // colours go to the screen as they stand in the world
     this.renderer.setTransparentSort((a, b) => (
       a.groupOrder - b.groupOrder || a.renderOrder - b.renderOrder || b.object.eyeDepth - a.object.eyeDepth
@@ -59,6 +65,7 @@ export class View {
   show(scene) {
     this.world?.dispose();
     this.world = scene === null ? null : new World(this, scene);
+    this.screen.reset();
     this.invalidate();
   }
 
@@ -107,12 +114,20 @@ export class View {
     this.request();
   }
 
-  request() {
-    if (this.frame === 0 && !this.isGone) this.frame = requestAnimationFrame(() => this.draw());
+  /** The viewer has moved: a frame soon, a smooth one when he rests. */
+  moved() {
+    this.hasMoved = true;
+    this.invalidate();
   }
 
-  draw() {
-    globalThis.theView = this;
+  request() {
+    if (this.frame !== 0 || this.isGone) return;
+    const asked = performance.now();
+    this.frame = requestAnimationFrame(() => this.draw(performance.now() - asked));
+  }
+
+  /** waited: milliseconds since the frame was asked for */
+  draw(waited) {
     this.frame = 0;
     const { world, camera } = this, begin = performance.now();
     if (world === null) {
@@ -129,24 +144,29 @@ export class View {
     if (this.pointerEvent) this.point('move', this.pointerEvent);
     if (world.isStale) {
       world.isStale = false;
-      this.render();
+      this.render(waited, changed && world.scene.isAnimated);
       this.pointAgain();
       this.tell('frame', { time: begin, changed, work: performance.now() - begin });
     }
     const isUnfinished = camera.isMoving || world.isStale || world.jobs.size > 0;
     if (isUnfinished || world.scene.isAnimated) this.request();
-    if (!isUnfinished) this.answer();
+    if (!isUnfinished && this.isAtRest) this.answer();
   }
 
-  render() {
-    const { width, height } = this.canvas;
+  render(waited, isAnimated) {
+    const { width, height } = this.canvas, { screen } = this;
     if (width === 0 || height === 0) return;
-    const isMoving = this.camera.isMoving || this.navigation.isBusy;
-    if (isMoving) {
-      clearTimeout(this.resting);
-      this.resting = setTimeout(() => this.invalidate(), REST);
-    }
-    this.drawTo(null, width, height, isMoving);
+    const isMoving = this.camera.isMoving || this.hasMoved;
+    this.hasMoved = false;
+    this.isAtRest = !isMoving;
+    if (isMoving || isAnimated) screen.waited(waited);
+    const isCoarse = isMoving || (isAnimated && screen.isSlow);
+    clearTimeout(this.resting);
+    this.resting = !isCoarse ? 0 : setTimeout(() => {
+      this.resting = 0;
+      this.invalidate();
+    }, this.navigation.isBusy ? HELD : REST);
+    screen.draw(isCoarse, width, height, (target, columns, rows) => this.drawTo(target, columns, rows, isMoving));
   }
 
   drawTo(target, width, height, isMoving) {
@@ -163,7 +183,7 @@ export class View {
   /** Resolves when the picture is final: fonts are there, nothing moves, nothing waits. */
   async idle() {
     await document.fonts.ready;
-    if (this.frame === 0 && !this.navigation.isBusy) return;
+    if (this.world === null || (this.frame === 0 && this.isAtRest)) return;
     await new Promise((resolve) => { this.waiting.push(resolve); });
   }
 
@@ -176,6 +196,7 @@ export class View {
     if (clientWidth === 0 || clientHeight === 0) return;
     this.renderer.setPixelRatio(window.devicePixelRatio);
     this.renderer.setSize(clientWidth, clientHeight, false);
+    this.screen.reset();
     this.invalidate();
   }
 
@@ -256,6 +277,7 @@ export class View {
     this.observer.disconnect();
     document.fonts.removeEventListener('loadingdone', this.fontsCame);
     this.navigation.dispose();
+    this.screen.dispose();
     this.renderer.dispose();
     this.renderer.forceContextLoss();
     this.canvas.remove();
