@@ -104,8 +104,9 @@ std::string OutputSuffixes() {
 
 bool IsWorldFile(const fs::path& path) {
   std::error_code ignored;
-  // A pipe or a terminal has no suffix that could say anything.
-  if (path == "-" || (fs::exists(path, ignored) && fs::is_other(path, ignored))) return true;
+  // A pipe or a terminal has no suffix that could say anything, and a folder gets its own message.
+  if (path == "-" || (fs::exists(path, ignored) && !fs::is_regular_file(path, ignored)))
+    return true;
   const Format* format = FormatOf(path);
   return format && format->bytes == AsWorld;
 }
