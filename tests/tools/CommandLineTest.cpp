@@ -180,7 +180,7 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
   Write("bad.csv", "m,a\nx,abc\n");
   Write("negative.csv", "m,a\nx,-1\n");
   Write("bad.json", "{\"chart\": \"AreaGraph\", \"GridProps\": {\"Width\": 0}}");
-  Write("model.json", "{\"chart\": \"AreaGraph\"}");
+  Write("model.wrl", "{\"chart\": \"AreaGraph\"}");
   Write("grid.csv", "m,a,b\nx,1,2\ny,3,4\n");
   fs::create_symlink("grid.csv", "link.wrl");
   fs::create_directory("folder");
@@ -231,12 +231,12 @@ TEST_F(CommandLine, RejectsBadInputAndLeavesFilesAlone) {
       {2, "chart scatter t.csv -o o.wrl --frame-seconds 0.9",
        "--frame-seconds: 0.9 is not a number from 1 to 3600\n"},
       {2, "chart scatter t.csv -o o.wrl --loop twice", "--loop: "},
-      {1, "chart area t.csv -o ./t.csv",
-       "./t.csv: cannot be written: it is read by this command\n"},
+      {2, "chart area t.csv -o t.csv", "--output: t.csv ends in none of .wrl, "},
+      {2, "chart area t.csv -o o", "--output: o ends in none of .wrl, "},
       {1, "chart ribbon-surface t.csv --surface grid.csv -o link.wrl",
        "link.wrl: cannot be written: it is read by this command\n"},
-      {1, "build model.json -o model.json",
-       "model.json: cannot be written: it is read by this command\n"},
+      {1, "build model.wrl -o ./model.wrl",
+       "./model.wrl: cannot be written: it is read by this command\n"},
       {1, "chart area t.csv -o folder/../VR_UI.wrl",
        "folder/../VR_UI.wrl: cannot be written: it is another file of this command\n"},
       {2, "chart area t.csv -o o.wrl --title \xff", "argument 7 is not UTF-8\n"},
