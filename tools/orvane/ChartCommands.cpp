@@ -58,8 +58,10 @@ void AddChartCommand(CLI::App& charts, const tables::ChartKind& kind, std::ostre
         if (isFirst) err << remark << '\n';
       }
       isFirst = false;
-      MadeWorld world{
-          made.chart->ExportToString(true, true), request->options.title, kind.name, {}};
+      MadeWorld world;
+      world.text = made.chart->ExportToString(true, true);
+      world.title = request->options.title;
+      world.kind = kind.name;
       // Standard input has been read to its end.
       if (request->table != "-") world.table = [&] { return table.open(request->options); };
       return world;

@@ -1,9 +1,7 @@
 #include "CommandLine.h"
 
 #include "ChartCommands.h"
-#ifdef ORVANE_STILLS
 #include "ConvertCommand.h"
-#endif
 #include "ModelBuilder.h"
 #include "ProtoLocation.h"
 #include "TypesReference.h"
@@ -39,7 +37,9 @@ void AddBuildCommand(CLI::App& app, std::ostream& out) {
   AddOutputOptions(command, *output);
   command.callback([model, output, &out] {
     WriteWorld(*output, {*model}, out, [&] {
-      return MadeWorld{BuildWorld(tables::Source::Read(*model)), "", "", {}};
+      MadeWorld world;
+      world.text = BuildWorld(tables::Source::Read(*model));
+      return world;
     });
   });
 }
@@ -91,9 +91,7 @@ int RunCommandLine(int argc, const char* const* argv, std::ostream& out, std::os
   app.require_subcommand(1);
   AddChartCommands(app, out, err);
   AddBuildCommand(app, out);
-#ifdef ORVANE_STILLS
-  AddConvertCommand(app);
-#endif
+  AddConvertCommand(app, out);
   AddProtosCommand(app);
   AddSettingsCommand(app, out);
   AddTypesCommand(app, out);

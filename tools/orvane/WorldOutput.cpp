@@ -29,6 +29,7 @@ void AddOutputOptions(CLI::App& command, WorldOutput& output) {
                   " left out, they are written beside the world, or are where the settings say")
       ->type_name("PREFIX")
       ->check(CLI::Validator(endsInSeparator, ""));
+  AddFormatOptions(command, output.format);
 }
 
 void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, std::ostream& out,
@@ -55,7 +56,7 @@ void WriteWorld(const WorldOutput& output, const std::vector<fs::path>& inputs, 
         if (std::ranges::none_of(files, isThere)) files.push_back(std::move(proto));
       }
     }
-    files.push_back({path, BytesFor(path, *world)});
+    files.push_back({path, BytesFor(path, *world, output.format)});
   }
   host::WriteFiles(files, inputs);
 }

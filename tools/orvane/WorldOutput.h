@@ -18,6 +18,7 @@ namespace orvane::tool {
 struct WorldOutput {
   std::vector<std::string> paths;          ///< "-" for standard output; suffixes say what.
   std::optional<std::string> protoPrefix;  ///< Left out: as the user's settings say.
+  FormatOptions format;
 };
 
 /// Adds the options that fill `output`, which must outlive `command`.
