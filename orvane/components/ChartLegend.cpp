@@ -29,10 +29,11 @@ void ChartLegend::KeyStyle(LegendKeyStyle style) {
 void ChartLegend::IsBillboarded(bool isBillboarded) {
   if (isBillboarded == m_isBillboarded) return;
   using List = scene::MFNode::List;
-  auto parts = Contents().Items();
-  auto top = isBillboarded ? List{m_billboard} : std::move(parts);
+  List turned = Contents().Items();
+  List top{m_billboard};
+  if (!isBillboarded) top = std::exchange(turned, {});
   Root()->children.Items(std::move(top));
-  m_billboard->children.Items(isBillboarded ? std::move(parts) : List());
+  m_billboard->children.Items(std::move(turned));
   m_isBillboarded = isBillboarded;
 }
 

@@ -3,11 +3,21 @@
 #pragma once
 
 #include "orvane/automation/Describe.h"
+#include "orvane/components/DrillUpInfo.h"
 #include "orvane/graphs/Chart.h"
 
 #include <memory>
 
 namespace orvane {
+
+template <class G>
+void DescribeDrillUp(host::Describe<G>& graph) {
+  graph
+      .template Property<bool>("UseDrillUp", &G::UseDrillUp, &G::UseDrillUp,
+                               {"Whether the drill-up cone is in the scene"})
+      .template Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &G::DrillUpProps,
+                                                       {"The drill-up cone"});
+}
 
 template <class G>
 void DescribeViews(host::Describe<G>& graph) {

@@ -222,7 +222,10 @@ class ORVANE_API SFNode final : public SingleField<SFNode, std::shared_ptr<Node>
   std::shared_ptr<Node> Value() const { return m_value; }
   /// Replaces the previous node; nullptr is VRML97's NULL. TypeMismatch for a node of a type that
   /// VRML97 does not let the field hold.
-  void Value(std::shared_ptr<Node> node) { m_value = Checked(node, m_role); }
+  void Value(std::shared_ptr<Node> node) {
+    Checked(node, m_role);
+    m_value = std::move(node);
+  }
 
   void Write(SceneWriter& out) const override;
   void VisitNodes(const std::function<void(const Node&)>& visit) const override;

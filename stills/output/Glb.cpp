@@ -129,6 +129,7 @@ class Writer {
     int input = -1;
     for (std::size_t part = 0; part < places[0].size(); ++part) {
       std::vector<Vec3> way;
+      way.reserve(places.size());
       for (const auto& moment : places) way.push_back(m_standing.Point(moment[part]));
       if (std::ranges::all_of(way, [&way](const Vec3& at) { return at == way[0]; })) continue;
       if (input < 0) input = m_buffer.AddTimes(times);

@@ -61,8 +61,8 @@ class Tile {
         m_lens(still.view, size),
         m_isTransparent(size.isTransparent),
         m_picture(picture),
-        m_near(kTile * kTile),
-        m_color(kTile * kTile * kSamples) {}
+        m_near(PixelAt(0, kTile)),
+        m_color(m_near.size() * kSamples) {}
 
   void Draw(int x, int y, const std::vector<std::uint32_t>& triangles) {
     m_x = x;
@@ -77,10 +77,14 @@ class Tile {
   }
 
  private:
+  static constexpr std::size_t PixelAt(int x, int y) {
+    return static_cast<std::size_t>(y) * kTile + static_cast<std::size_t>(x);
+  }
+
   void Clear() {
     for (int y = 0; y < m_height; ++y) {
       for (int x = 0; x < m_width; ++x) {
-        const auto pixel = static_cast<std::size_t>(y * kTile + x);
+        const std::size_t pixel = PixelAt(x, y);
         m_near[pixel].fill(0);
         Color color;
         if (!m_isTransparent && !m_still.background.skyColors.empty()) {
@@ -148,14 +152,13 @@ class Tile {
                  const Plane& near, int x, int y, bool isClear) {
     const auto [p, q, r] = start;
     const float depth = near.At(x, y);
-    const auto pixel = static_cast<std::size_t>(y * kTile + x);
+    const std::size_t pixel = PixelAt(x, y);
     Samples& nearest = m_near[pixel];
     std::array<int, kSamples> isHit;  // all samples at once, without branches
     int count = 0;
     for (std::size_t i = 0; i < kSamples; ++i) {
-      const bool isInside = (p + parts[0].steps[i] >= 0) & (q + parts[1].steps[i] >= 0) &
-                            (r + parts[2].steps[i] >= 0);
-      isHit[i] = isInside & (depth + near.steps[i] > nearest[i]);
+      isHit[i] = int{p + parts[0].steps[i] >= 0} & int{q + parts[1].steps[i] >= 0} &
+                 int{r + parts[2].steps[i] >= 0} & int{depth + near.steps[i] > nearest[i]};
       count += isHit[i];
     }
     if (count == 0) return;
@@ -205,7 +208,7 @@ class Tile {
   void Resolve() {
     for (int y = 0; y < m_height; ++y) {
       for (int x = 0; x < m_width; ++x) {
-        const Color* colors = m_color.data() + static_cast<std::size_t>(y * kTile + x) * kSamples;
+        const Color* colors = m_color.data() + PixelAt(x, y) * kSamples;
         Color sum;
         for (std::size_t i = 0; i < kSamples; ++i) {
           sum.red += colors[i].red;
@@ -255,7 +258,8 @@ std::vector<std::vector<std::uint32_t>> Sorted(const Triangles& triangles, int c
     const int y1 = std::min(within(highY, rows), rows - 1);
     for (int y = std::max(within(lowY, rows), 0); y <= y1; ++y) {
       for (int x = std::max(within(lowX, columns), 0); x <= x1; ++x) {
-        tiles[static_cast<std::size_t>(y * columns + x)].push_back(static_cast<std::uint32_t>(n));
+        const int tile = y * columns + x;
+        tiles[static_cast<std::size_t>(tile)].push_back(static_cast<std::uint32_t>(n));
       }
     }
   }

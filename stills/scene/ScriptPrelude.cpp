@@ -3,14 +3,15 @@
 namespace orvane::stills {
 
 // Lists are plain arrays with another prototype, which keeps elements fast. Text in numbers is that
-// of 32 bits, from __floats. What the engine offers beyond the language, and whatever could run
-// text that has no ticks in it, is taken away; so are the engine's own loops over lists that are
-// endless in effect.
+// of 32 bits, from __floats; nodes made of text come from __create. What the engine offers beyond
+// the language, and whatever could run text that has no ticks in it, is taken away; so are the
+// engine's own loops over lists that are endless in effect.
 const char* const kScriptPrelude = R"js(
 (function (global) {
   'use strict';
 
   var floats = global.__floats;
+  var create = global.__create;
 
   function hidden(object, members) {
     for (var name in members) {
@@ -183,7 +184,7 @@ const char* const kScriptPrelude = R"js(
     MFVec3f: list(listed), MFVec2f: list(listed), MFColor: list(listed), MFRotation: list(listed),
     MFFloat: list(listedFloats), MFInt32: list(listed), MFTime: list(listed), MFNode: list(listed),
     MFString: list(listedStrings),
-    SFNode: function SFNode(text) { return global.__create(text)[0]; }
+    SFNode: function SFNode(text) { return create(text)[0]; }
   };
   hidden(global, types);
 
@@ -197,7 +198,7 @@ const char* const kScriptPrelude = R"js(
       setDescription: function () {},
       loadURL: function () {},
       replaceWorld: function () {},
-      createVrmlFromString: global.__create,
+      createVrmlFromString: create,
       createVrmlFromURL: function () { throw new Error('a script may not read files'); },
       addRoute: function () { throw new Error('addRoute is not there'); },
       deleteRoute: function () { throw new Error('deleteRoute is not there'); }

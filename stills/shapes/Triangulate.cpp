@@ -24,6 +24,7 @@ class Cutter {
     std::erase_if(outlines, [](const Outline& outline) { return outline.size() < 3; });
     // The number of outlines around each tells whether it is an edge of the shape or of a hole.
     std::vector<std::size_t> depths;
+    depths.reserve(outlines.size());
     for (const Outline& outline : outlines) {
       depths.push_back(
           static_cast<std::size_t>(std::ranges::count_if(outlines, [&](const Outline& other) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace orvane::stills {
 
@@ -60,10 +61,10 @@ Value DefaultOf(FieldType type) {
 std::size_t SizeOf(const Value& value) {
   if (const auto* texts = std::get_if<std::vector<std::string>>(&value)) {
     std::size_t size = 0;
-    for (const std::string& text : *texts) size += sizeof text + text.size();
+    for (const std::string& text : *texts) size += sizeof(std::string) + text.size();
     return size;
   }
-  return std::visit([](const auto& list) { return list.size() * sizeof list[0]; }, value);
+  return std::visit([](const auto& list) { return std::span(list).size_bytes(); }, value);
 }
 
 }  // namespace orvane::stills

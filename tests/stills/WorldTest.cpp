@@ -132,7 +132,8 @@ PROTO Square [ exposedField SFFloat size 1 exposedField SFColor color 1 0 0 ] {
 TEST(World, PassesEventsThroughScriptsAndProtosToTheShape) {
   World world = Read(std::string(kSquare) + R"(
     DEF Q Square { size 2 }
-    DEF Setter Script { eventOut SFFloat size url "javascript: function initialize() { size = 3; }" }
+    DEF Setter Script { eventOut SFFloat size
+      url "javascript: function initialize() { size = new SFNode('Sphere { radius 3 }').radius; }" }
     ROUTE Setter.size TO Q.size
     Switch { choice Square { } } Shape { geometry Box { } appearance Appearance { material Material { transparency 1 } } })");
   const Still still = world.From("");

@@ -62,6 +62,7 @@ SeriesCollection::Items ColumnGraph::ResizedSlot(const SeriesCollection& slot,
 void ColumnGraph::m_gridInfo_ZCellCountFollowed(std::int16_t newCount) {
   const auto slots = Indexes(m_slots->Count());
   std::vector<SeriesCollection::Items> resized;
+  resized.reserve(static_cast<std::size_t>(m_slots->Count()));
   for (const std::int16_t i : slots) resized.push_back(ResizedSlot(*Slot(i), newCount));
   auto next = resized.begin();
   for (const std::int16_t i : slots) Slot(i)->Replace(std::move(*next++));

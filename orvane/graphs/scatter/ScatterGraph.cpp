@@ -58,10 +58,7 @@ const host::TypeInfo& ScatterGraph::Type() const {
           .Property<AnimationStyle>(
               "PointAnimationStyle", &Graph::PointAnimationStyle, &Graph::PointAnimationStyle,
               {"Whether points move from frame to frame, or a slider picks the frame"})
-          .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene"})
-          .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
-                                                  {"The drill-up cone"})
+          .With(DescribeDrillUp<Graph>)
           .With(DescribeViews<Graph>)
           .With(DescribeExport<Graph>);
   return type;

@@ -16,10 +16,7 @@ const host::TypeInfo& DensityGraph::Type() const {
           .Property<float>(
               "Sigma", &Graph::Sigma, &Graph::Sigma,
               {"Width of the kernel around each point", "scene units", host::kPositive})
-          .Property<bool>("UseDrillUp", &Graph::UseDrillUp, &Graph::UseDrillUp,
-                          {"Whether the drill-up cone is in the scene"})
-          .Property<std::shared_ptr<DrillUpInfo>>("DrillUpProps", &Graph::DrillUpProps,
-                                                  {"The drill-up cone"})
+          .With(DescribeDrillUp<Graph>)
           .With(DescribeViews<Graph>)
           .With(DescribeExport<Graph>);
   return type;

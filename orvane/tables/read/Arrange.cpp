@@ -141,11 +141,13 @@ void SortCategories(Table& table, Sort sort) {
   std::vector<std::size_t> order(table.categories.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
   std::vector<double> sums;
+  sums.reserve(order.size());
   for (const std::size_t i : order) sums.push_back(SumAt(table, i));
   std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
     return sort == Sort::Value ? sums[a] > sums[b] : table.categories[a] < table.categories[b];
   });
   std::vector<std::string> categories;
+  categories.reserve(order.size());
   for (const std::size_t i : order) categories.push_back(table.categories[i]);
   table.categories = std::move(categories);
   Reorder(table, order);

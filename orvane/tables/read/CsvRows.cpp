@@ -1,32 +1,16 @@
 #include "orvane/tables/read/CsvRows.h"
 
 #include "orvane/scene/Utf8.h"
+#include "orvane/tables/read/Source.h"
 #include "orvane/tables/read/TableInput.h"
 
-#include <cerrno>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
-#include <system_error>
 #include <utility>
 
 namespace orvane::tables {
 namespace {
-
-std::unique_ptr<std::istream> OpenFile(const std::filesystem::path& path) {
-  const auto fail = [&](const std::error_code& error) {
-    throw FileError(path.string() + ": cannot be read: " + error.message());
-  };
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) {
-    fail(std::make_error_code(std::errc::is_a_directory));
-  }
-  errno = 0;
-  auto file = std::make_unique<std::ifstream>(path, std::ios::binary);
-  if (!*file) fail({errno, std::generic_category()});
-  return file;
-}
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
@@ -253,7 +237,8 @@ TableInput TableFile(const std::string& path) {
             }};
   }
   return {path, [path](const ReadOptions& options) {
-            return std::make_unique<CsvRows>(path, OpenFile(path), options);
+            return std::make_unique<CsvRows>(path, std::make_unique<std::ifstream>(OpenFile(path)),
+                                             options);
           }};
 }
 

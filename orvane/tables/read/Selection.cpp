@@ -17,6 +17,10 @@ std::optional<std::size_t> CountIn(std::string_view text) {
   return number;
 }
 
+FileError NotARange(const std::string& option, const std::string& part) {
+  return FileError(option + ": \"" + part + "\" is not a number from 1 or a range such as 2-5");
+}
+
 }  // namespace
 
 Selection::Selection(const std::string& text, const std::string& option) {
@@ -31,7 +35,7 @@ Selection::Selection(const std::string& text, const std::string& option) {
       last = end.empty() ? std::numeric_limits<std::size_t>::max() : CountIn(end);
     }
     if (!first || !last || *last < *first) {
-      throw FileError(option + ": \"" + part + "\" is not a number from 1 or a range such as 2-5");
+      throw NotARange(option, part);
     }
     m_ranges.push_back({*first, *last});
     m_last = std::max(m_last, *last);

@@ -3,13 +3,31 @@
 #include "orvane/scene/Utf8.h"
 
 #include <cerrno>
-#include <fstream>
 #include <iterator>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 namespace orvane::tables {
+
+namespace {
+
+FileError Unreadable(const std::filesystem::path& path, const std::error_code& error) {
+  return FileError(path.string() + ": cannot be read: " + error.message());
+}
+
+}  // namespace
+
+std::ifstream OpenFile(const std::filesystem::path& path) {
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) {
+    throw Unreadable(path, std::make_error_code(std::errc::is_a_directory));
+  }
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw Unreadable(path, {errno, std::generic_category()});
+  return file;
+}
 
 Source::Source(std::string name, std::string text)
     : m_name(std::move(name)), m_text(std::move(text)) {
@@ -25,18 +43,9 @@ Source::Source(std::string name, std::string text)
 }
 
 Source Source::Read(const std::filesystem::path& path) {
-  const auto fail = [&](const std::error_code& error) {
-    throw FileError(path.string() + ": cannot be read: " + error.message());
-  };
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) {
-    fail(std::make_error_code(std::errc::is_a_directory));
-  }
-  errno = 0;
-  std::ifstream file(path, std::ios::binary);
-  if (!file) fail({errno, std::generic_category()});
+  std::ifstream file = OpenFile(path);
   std::string text{std::istreambuf_iterator<char>(file), {}};
-  if (file.bad()) fail(std::make_error_code(std::errc::io_error));
+  if (file.bad()) throw Unreadable(path, std::make_error_code(std::errc::io_error));
   return {path.string(), std::move(text)};
 }
 

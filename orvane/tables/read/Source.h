@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <fstream>
 #include <stdexcept>
 #include <string>
 
@@ -15,6 +16,9 @@ class ORVANE_API FileError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
+
+/// The bytes of a file. Raises FileError when it cannot be read.
+std::ifstream OpenFile(const std::filesystem::path& path);
 
 /// The whole text of one input file: UTF-8 without NUL, its byte-order mark taken off.
 class ORVANE_API Source {
