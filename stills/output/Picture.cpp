@@ -153,9 +153,8 @@ class Tile {
     std::array<int, kSamples> isHit;  // all samples at once, without branches
     int count = 0;
     for (std::size_t i = 0; i < kSamples; ++i) {
-      const bool isInside = (p + parts[0].steps[i] >= 0) & (q + parts[1].steps[i] >= 0) &
-                            (r + parts[2].steps[i] >= 0);
-      isHit[i] = isInside & (depth + near.steps[i] > nearest[i]);
+      isHit[i] = int{p + parts[0].steps[i] >= 0} & int{q + parts[1].steps[i] >= 0} &
+                 int{r + parts[2].steps[i] >= 0} & int{depth + near.steps[i] > nearest[i]};
       count += isHit[i];
     }
     if (count == 0) return;
