@@ -36,8 +36,8 @@ TEST(CloudTable, SaysWhereItIsWrong) {
       {"x,z\n1,two\n", "p.csv:2:3: \"two\" is not a number"},
       {"x,z\n1,inf\n", "p.csv:2:3: \"inf\" is not a finite number"},
   };
-  for (const auto& [text, message] : cases) {
-    EXPECT_EQ(tests::ComplaintOf([&] { CloudsOf(text); }), message);
+  for (const auto& row : cases) {
+    EXPECT_EQ(tests::ComplaintOf([&] { CloudsOf(row.first); }), row.second);
   }
 }
 

@@ -98,8 +98,8 @@ TEST(PieChart, RefusesWhatMakesNoPie) {
        "t.csv:1:7: a pie takes a column of labels, one of values and at most one of heights"},
       {"a,b\nx,one\n", "t.csv:2:3: \"one\" is not a number"},
   };
-  for (const auto& [text, message] : cases) {
-    EXPECT_EQ(tests::ComplaintOf([&] { SharesOf(text); }), message);
+  for (const auto& row : cases) {
+    EXPECT_EQ(tests::ComplaintOf([&] { SharesOf(row.first); }), row.second);
   }
 }
 

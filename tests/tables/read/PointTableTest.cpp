@@ -63,8 +63,8 @@ TEST(PointTable, SaysWhatIsWrongAndWhere) {
       {"x,y,z,color\n1,2,3,red\n", "t.csv:2:7: \"red\" is not a colour (#rrggbb)"},
       {full, "t.csv:32769:1: more than 32767 points in a frame"},
   };
-  for (const auto& [text, message] : cases) {
-    EXPECT_EQ(tests::ComplaintOf([&] { Read(text); }), message);
+  for (const auto& row : cases) {
+    EXPECT_EQ(tests::ComplaintOf([&] { Read(row.first); }), row.second);
   }
 }
 

@@ -97,8 +97,8 @@ TEST(Table, SaysWhatIsWrongAndWhere) {
       {manySeries + "\n", "t.csv:1:185489: more than 32766 series"},
       {"m,a\näöü,?\n", "t.csv:2:5: \"?\" is not a number"},
   };
-  for (const auto& [text, message] : cases) {
-    EXPECT_EQ(tests::ComplaintOf([&] { Read(text); }), message);
+  for (const auto& row : cases) {
+    EXPECT_EQ(tests::ComplaintOf([&] { Read(row.first); }), row.second);
   }
 }
 
